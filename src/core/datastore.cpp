@@ -1,0 +1,111 @@
+#include "core/datastore.h"
+
+#include "core/storeerror.h"
+
+#include <QAtomicInt>
+#include <QFileInfo>
+#include <QSqlError>
+
+namespace {
+
+QAtomicInt connectionCounter;
+
+StoreError errorOf(const QSqlError &error)
+{
+    QString text = error.databaseText().trimmed();
+    if (text.isEmpty())
+        text = error.text().trimmed();
+    return StoreError(error.nativeErrorCode(), text);
+}
+
+} // namespace
+
+DataStore::DataStore(const QString &path, OpenMode mode)
+    : m_path(path),
+      m_connectionName(QStringLiteral("kelvora-%1").arg(connectionCounter.fetchAndAddRelaxed(1)))
+{
+    const QFileInfo file(path);
+    if (mode == OpenMode::ExistingFile && !file.exists())
+        throw StoreError(QStringLiteral("14"),
+                         QStringLiteral("Could not find file '%1'.").arg(file.absoluteFilePath()));
+
+    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
+    db.setDatabaseName(path);
+    if (!db.open()) {
+        const StoreError error = errorOf(db.lastError());
+        db = QSqlDatabase();
+        QSqlDatabase::removeDatabase(m_connectionName);
+        throw error;
+    }
+    try {
+        // SQLite opens any file lazily: reading the catalogue is what tells a store from a
+        // file of another kind, and foreign keys stay off because integrity is kept by the screens.
+        scalar(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+    } catch (...) {
+        db.close();
+        db = QSqlDatabase();
+        QSqlDatabase::removeDatabase(m_connectionName);
+        throw;
+    }
+}
+
+DataStore::~DataStore()
+{
+    {
+        QSqlDatabase db = QSqlDatabase::database(m_connectionName, false);
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(m_connectionName);
+}
+
+QString DataStore::folder() const
+{
+    return QFileInfo(m_path).absolutePath();
+}
+
+QSqlDatabase DataStore::database() const
+{
+    return QSqlDatabase::database(m_connectionName, false);
+}
+
+QSqlQuery DataStore::exec(const QString &sql, const QVariantList &values) const
+{
+    QSqlQuery query(database());
+    query.setForwardOnly(true);
+    if (!query.prepare(sql))
+        throw errorOf(query.lastError());
+    for (const QVariant &value : values)
+        query.addBindValue(value);
+    if (!query.exec())
+        throw errorOf(query.lastError());
+    return query;
+}
+
+QVariant DataStore::scalar(const QString &sql, const QVariantList &values) const
+{
+    QSqlQuery query = exec(sql, values);
+    if (!query.next())
+        return {};
+    return query.value(0);
+}
+
+bool DataStore::hasRows(const QString &sql, const QVariantList &values) const
+{
+    QSqlQuery query = exec(sql, values);
+    return query.next();
+}
+
+bool DataStore::tableExists(const QString &table) const
+{
+    return hasRows(QStringLiteral("SELECT 1 FROM sqlite_master WHERE type = 'table' "
+                                  "AND lower(name) = lower(?)"),
+                   {table});
+}
+
+bool DataStore::columnExists(const QString &table, const QString &column) const
+{
+    return hasRows(QStringLiteral("SELECT 1 FROM sqlite_master AS t, pragma_table_info(t.name) AS c "
+                                  "WHERE t.type = 'table' AND lower(t.name) = lower(?) "
+                                  "AND lower(c.name) = lower(?)"),
+                   {table, column});
+}

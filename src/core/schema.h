@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class DataStore;
+
+/**
+ * The tables of the data store, their columns in stored order, and their indexes. The older
+ * layout is the same without what the start-up upgrade adds; a fresh store is made in it so
+ * that the upgrade runs for real on every new store.
+ */
+namespace schema {
+
+enum class Layout { Older, Current };
+
+/// The names of the tables of a layout, in the order they are created.
+QStringList tableNames(Layout layout);
+
+/// Creates one table of the current layout, with its indexes.
+void createTable(const DataStore &store, const QString &table, Layout layout = Layout::Current);
+
+/// Creates every table of the layout, with its indexes.
+void createAll(const DataStore &store, Layout layout);
+
+/// The declaration of a column as ALTER TABLE ... ADD COLUMN takes it ("DStatus VARCHAR(1)
+/// COLLATE NOCASE").
+QString columnDefinition(const QString &table, const QString &column);
+
+} // namespace schema

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+class DataStore;
+struct Session;
+
+/// The steps of a start, in the order the program runs them.
+namespace startup {
+
+/// Opens Kelvora.db in the program's folder; a missing, unreadable or foreign file throws
+/// StoreError, which the program reports before any window appears.
+std::unique_ptr<DataStore> openStore(const QString &programFolder);
+
+/// What the main window's load does: the session's assessment id, the seed of the CHAPVIAU
+/// sections, the schema upgrade, and the first year of the financial year.
+void prepareStore(Session &session);
+
+/// Reads the assessment period into the session; with no row the values stay as they are.
+void readAssessmentPeriod(Session &session);
+
+/// The folder of generated return files, eReturns beside the data store.
+QString returnsFolder(const QString &storeFolder);
+/// Makes that folder when it is not there; a failure is not reported, only returned.
+bool createReturnsFolder(const QString &storeFolder);
+bool returnsFolderExists(const QString &storeFolder);
+
+} // namespace startup
