@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+/// The number rules of the program: how typed text is read as a number, and how amounts round.
+namespace numbers {
+
+/// Reads the number at the start of a text the way the program has always read typed amounts:
+/// blanks anywhere are skipped, reading stops at the first character that cannot continue the
+/// number, and a text without a leading number is 0 ("12abc" is 12, "1,000" is 1, "" is 0).
+double val(const QString &text);
+
+/**
+ * Rounds a rupee amount to a whole number the way the statement screens always have. The rest
+ * after the whole part (cut towards zero) is formatted "0.00", read without its point, and the
+ * first @p digits characters of that number decide: 50 or more adds one. So .49 stays, .50 adds
+ * one, .05 to .09 stay (a single digit), .995 and above stay ("1.00" reads 100, cut to 10), and a
+ * negative amount always stays at its whole part. The rest is taken from the amount's shortest
+ * decimal text, so a typed 2.995 behaves as .995 whatever its binary value. @p digits 0 means 2.
+ */
+double roundAmount(double amount, int digits = 0);
+
+} // namespace numbers
