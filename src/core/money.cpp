@@ -1,0 +1,102 @@
+#include "core/money.h"
+
+#include "core/numbers.h"
+
+#include <QLocale>
+
+namespace {
+
+/// Paise of a decimal text such as "-12.345", rounded half away from zero at the third decimal.
+qint64 paiseOfDecimal(const QString &text)
+{
+    QString digits = text;
+    const bool negative = digits.startsWith(u'-');
+    if (negative)
+        digits.remove(0, 1);
+    const qsizetype point = digits.indexOf(u'.');
+    const QString whole = point < 0 ? digits : digits.left(point);
+    const QString fraction =
+        (point < 0 ? QString() : digits.mid(point + 1)) + QStringLiteral("000");
+    qint64 paise = whole.toLongLong() * 100 + fraction.left(2).toLongLong();
+    if (fraction.at(2) >= u'5')
+        ++paise;
+    return negative ? -paise : paise;
+}
+
+/// The shortest decimal text of a stored number, which is the text it was typed as; a stored
+/// text that is not a number is read the way the program reads typed amounts.
+QString decimalText(const QVariant &value)
+{
+    bool ok = false;
+    double number = value.toDouble(&ok);
+    if (!ok)
+        number = numbers::val(value.toString());
+    // 'f' with the shortest precision never falls into exponent notation.
+    return QString::number(number, 'f', QLocale::FloatingPointShortest);
+}
+
+QString formatted(qint64 paise, int wholeDigits)
+{
+    const bool negative = paise < 0;
+    const qint64 magnitude = negative ? -paise : paise;
+    return QStringLiteral("%1%2.%3")
+        .arg(negative ? QStringLiteral("-") : QString())
+        .arg(magnitude / 100, wholeDigits, 10, QLatin1Char('0'))
+        .arg(magnitude % 100, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace
+
+Money Money::fromStored(const QVariant &value)
+{
+    if (!value.isValid() || value.isNull())
+        return {};
+    return Money(paiseOfDecimal(decimalText(value)));
+}
+
+Money Money::roundedFromStored(const QVariant &value)
+{
+    if (!value.isValid() || value.isNull())
+        return {};
+    QString digits = decimalText(value);
+    const bool negative = digits.startsWith(u'-');
+    if (negative)
+        digits.remove(0, 1);
+    const qsizetype point = digits.indexOf(u'.');
+    qint64 rupees = (point < 0 ? digits : digits.left(point)).toLongLong();
+    const QString fraction = point < 0 ? QString() : digits.mid(point + 1);
+    if (!fraction.isEmpty() && fraction.at(0) >= u'5') {
+        bool pastHalf = fraction.at(0) > u'5';
+        for (qsizetype i = 1; i < fraction.size() && !pastHalf; ++i)
+            pastHalf = fraction.at(i) != u'0';
+        if (pastHalf || rupees % 2 != 0)
+            ++rupees;
+    }
+    return fromRupees(negative ? -rupees : rupees);
+}
+
+Money Money::fromText(const QString &text)
+{
+    return fromStored(numbers::val(text));
+}
+
+Money Money::roundedToRupees() const
+{
+    qint64 rupees = m_paise / 100;
+    const qint64 rest = m_paise % 100; // carries the sign of m_paise
+    if (rest > 50 || (rest == 50 && rupees % 2 != 0))
+        ++rupees;
+    else if (rest < -50 || (rest == -50 && rupees % 2 != 0))
+        --rupees;
+    return fromRupees(rupees);
+}
+
+QString Money::toText() const
+{
+    return formatted(m_paise, 1);
+}
+
+QString Money::toPaddedText() const
+{
+    return formatted(m_paise, 2);
+}
