@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QDateTime>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+class DataStore;
+class QTextStream;
+struct FormTraits;
+
+/**
+ * The batch front end: the return files of saved Statements, without a screen. The command line
+ * is the user's confirmation; each Statement goes through the same checks, log row and writer as
+ * on its statement screen, and each gives one line of output.
+ */
+class BatchGeneration
+{
+public:
+    /// The program's exit status.
+    enum Status { AllWritten = 0, Refused = 1, UsageError = 2 };
+
+    struct Options
+    {
+        QString storePath;
+        QString formType; ///< "24Q", "26Q", "27Q" or "27EQ"
+        QString quarter;  ///< "Q1" to "Q4"
+        QString company;  ///< CompID, or the TAN
+        QString output;   ///< the file to write instead of the usual name; one Statement only
+        bool all = false;
+    };
+
+    /// Reads the arguments (the program's name first); on a usage error returns none and puts
+    /// the reason in @p error. --help is the caller's.
+    static std::optional<Options> parse(const QStringList &arguments, QString &error);
+
+    /// The usage text, for --help and after a usage error.
+    static QString usage();
+
+    BatchGeneration(QTextStream &out, QTextStream &err);
+
+    /// Generates what the options ask and returns the exit status.
+    int run(const Options &options, const QDateTime &now);
+
+private:
+    struct Target
+    {
+        int basicInfoId = 0;
+        int compId = 0;
+    };
+
+    bool generateOne(const DataStore &store, const FormTraits &form, const QString &quarter,
+                     const Target &target, const QString &output, const QDateTime &now);
+    void refuse(const DataStore &store, int compId, const QString &message);
+
+    QTextStream &m_out;
+    QTextStream &m_err;
+    QSet<QString> m_written; ///< files of this run, so that two companies never share one
+};

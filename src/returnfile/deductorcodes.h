@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+class DataStore;
+
+/// What the return file takes from the company master: the deductor type and the government
+/// deductor's codes (BH fields 32 and 54 to 61). Empty when the company row is not there.
+struct DeductorCodes
+{
+    QString deductorType; ///< DStatus, a category code such as "K" or "A"
+    QString stateCode;
+    QString paoCode;
+    QString ddoCode;
+    QString ministryCode;
+    QString ministryOther;
+    QString paoRegNo;
+    QString ddoRegNo;
+
+    static DeductorCodes read(const DataStore &store, const QVariant &companyId);
+};
