@@ -4,6 +4,9 @@
 
 #include <QLocale>
 
+#include <cmath>
+#include <optional>
+
 namespace {
 
 /// Paise of a decimal text such as "-12.345", rounded half away from zero at the third decimal.
@@ -35,6 +38,24 @@ QString decimalText(const QVariant &value)
     return QString::number(number, 'f', QLocale::FloatingPointShortest);
 }
 
+/// Most stored amounts are whole rupees; they need no reading of decimal digits.
+std::optional<qint64> wholeRupees(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+        return value.toLongLong();
+    case QMetaType::Double: {
+        const double number = value.toDouble();
+        if (std::trunc(number) == number && std::abs(number) < 1e15)
+            return static_cast<qint64>(number);
+        return std::nullopt;
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
 QString formatted(qint64 paise, int wholeDigits)
 {
     const bool negative = paise < 0;
@@ -51,6 +72,8 @@ Money Money::fromStored(const QVariant &value)
 {
     if (!value.isValid() || value.isNull())
         return {};
+    if (const std::optional<qint64> rupees = wholeRupees(value))
+        return fromRupees(*rupees);
     return Money(paiseOfDecimal(decimalText(value)));
 }
 
@@ -58,6 +81,8 @@ Money Money::roundedFromStored(const QVariant &value)
 {
     if (!value.isValid() || value.isNull())
         return {};
+    if (const std::optional<qint64> rupees = wholeRupees(value))
+        return fromRupees(*rupees);
     QString digits = decimalText(value);
     const bool negative = digits.startsWith(u'-');
     if (negative)

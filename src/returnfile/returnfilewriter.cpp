@@ -65,26 +65,49 @@ struct SectionLines
     qint64 count() const { return rows.size(); }
 };
 
-SectionLines readSectionLines(const DataStore &store, const QString &table,
-                              const QString &amountColumn, const QVariant &salaryId)
+/**
+ * The rows of one section table for a whole Statement, in the order of its salary rows, so that
+ * one query serves every SD instead of one per employee: each SD takes the rows of its own
+ * salary row from the front.
+ */
+class SectionRowsBySalary
 {
-    SourceRows rows(store.exec(QStringLiteral("SELECT Secid, SectionId, %1 FROM %2 "
-                                              "WHERE SalaryId = ? ORDER BY Secid")
-                                   .arg(amountColumn, table),
-                               {salaryId}),
-                    table, QStringLiteral("Secid"));
-    SectionLines lines;
-    Money sum;
-    while (rows.next()) {
-        const QVariant amount = rows.value(amountColumn);
-        lines.rows.append({rows.text(QStringLiteral("SectionId")), amount});
-        sum += Money::fromStored(amount);
+public:
+    SectionRowsBySalary(const DataStore &store, const FormTraits &form, const QString &table,
+                        const QString &amountColumn, const QVariant &basicInfoId)
+        : m_amountColumn(amountColumn),
+          m_rows(store.exec(QStringLiteral("SELECT s.Secid, s.SalaryId, s.SectionId, s.%1 "
+                                           "FROM %2 AS s JOIN %3 AS t ON t.SalaryId = s.SalaryId "
+                                           "WHERE t.BasicIfoID = ? "
+                                           "ORDER BY t.SrlNo, t.SalaryId, s.Secid")
+                                .arg(amountColumn, table, form.salaryTable),
+                            {basicInfoId}),
+                 table, QStringLiteral("Secid"))
+    {
+        m_hasRow = m_rows.next();
     }
-    // Rows that add up to nothing are left out together, those of 0 among others are not.
-    if (sum == Money())
-        lines.rows.clear();
-    return lines;
-}
+
+    SectionLines take(qint64 salaryId)
+    {
+        SectionLines lines;
+        Money sum;
+        while (m_hasRow && m_rows.value(QStringLiteral("SalaryId")).toLongLong() == salaryId) {
+            const QVariant amount = m_rows.value(m_amountColumn);
+            lines.rows.append({m_rows.text(QStringLiteral("SectionId")), amount});
+            sum += Money::fromStored(amount);
+            m_hasRow = m_rows.next();
+        }
+        // Rows that add up to nothing are left out together, those of 0 among others are not.
+        if (sum == Money())
+            lines.rows.clear();
+        return lines;
+    }
+
+private:
+    const QString m_amountColumn;
+    SourceRows m_rows;
+    bool m_hasRow = false;
+};
 
 class ReturnFilePass
 {
@@ -163,15 +186,16 @@ void ReturnFilePass::writeSalaryDetail(const QVariant &basicInfoId)
                                          .arg(m_form.salaryTable),
                                      {basicInfoId}),
                         m_form.salaryTable, QStringLiteral("SalaryId"));
+    SectionRowsBySalary section16Rows(m_store, m_form, m_form.section16Table,
+                                      QStringLiteral("TotalDeduction"), basicInfoId);
+    SectionRowsBySalary chapterVIARows(m_store, m_form, m_form.chapterVIATable,
+                                       QStringLiteral("GrossAmt"), basicInfoId);
     int salaryNumber = 0;
     while (salaries.next()) {
         ++salaryNumber;
-        const QVariant salaryId = salaries.value(QStringLiteral("SalaryId"));
-        const SectionLines section16 =
-            readSectionLines(m_store, m_form.section16Table, QStringLiteral("TotalDeduction"),
-                             salaryId);
-        const SectionLines chapterVIA = readSectionLines(m_store, m_form.chapterVIATable,
-                                                         QStringLiteral("GrossAmt"), salaryId);
+        const qint64 salaryId = salaries.value(QStringLiteral("SalaryId")).toLongLong();
+        const SectionLines section16 = section16Rows.take(salaryId);
+        const SectionLines chapterVIA = chapterVIARows.take(salaryId);
         m_output.write(salaryRecord(m_output.nextLineNumber(), salaryNumber, section16.count(),
                                     chapterVIA.count(), salaries));
         const auto writeSections = [&](const QString &recordType, const SectionLines &lines) {
