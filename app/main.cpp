@@ -28,7 +28,7 @@ int main(int argc, char *argv[])
     Session session(*store);
     MdiMain mainWindow(programFolder, session, boxes);
     boxes.setParent(&mainWindow);
-    mainWindow.show();
+    mainWindow.showMaximized();
     mainWindow.load();
     try {
         startup::readAssessmentPeriod(session);

@@ -7,6 +7,8 @@
 #include "core/session.h"
 #include "core/startup.h"
 #include "core/storeerror.h"
+#include "masters/frmcompanymaster.h"
+#include "masters/frmgroupmaster.h"
 #include "masters/referencemaster.h"
 #include "returnfile/frmshowforms.h"
 
@@ -32,8 +34,6 @@ struct PendingScreen
 };
 
 constexpr PendingScreen pendingScreens[] = {
-    {"frmGroupMaster", "The Group Master"},
-    {"frmCompanyMaster", "The Company Master"},
     {"frmEmployeeMaster", "The Employee Master"},
     {"frmDeducteeMaster", "The Deductee Master"},
     {"frmImport", "Import Data"},
@@ -85,6 +85,10 @@ MdiMain::MdiMain(const QString &programFolder, Session &session, MessageBoxes &b
         connect(login, &FrmLogin::selected, this, &MdiMain::openSelected);
         return login;
     });
+    setScreenFactory(QStringLiteral("frmGroupMaster"),
+                     [this] { return new FrmGroupMaster(m_session, m_boxes); });
+    setScreenFactory(QStringLiteral("frmCompanyMaster"),
+                     [this] { return new FrmCompanyMaster(m_session, m_boxes); });
     for (const auto kind : {ReferenceMaster::Kind::State, ReferenceMaster::Kind::Category,
                             ReferenceMaster::Kind::Ministry}) {
         setScreenFactory(ReferenceMaster::screenName(kind), [this, kind] {

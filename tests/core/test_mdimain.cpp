@@ -184,6 +184,8 @@ void TestMdiMain::screensOpenOnceAndAfresh_data()
 {
     QTest::addColumn<QString>("entry");
     QTest::addColumn<QString>("screen");
+    QTest::newRow("groups") << "mnuMaster(0)" << "frmGroupMaster";
+    QTest::newRow("companies") << "mnuMaster(1)" << "frmCompanyMaster";
     QTest::newRow("states") << "mnuMaster(2)" << "frmStateMaster";
     QTest::newRow("file viewer") << "Tool(2)" << "frmShowForms";
     QTest::newRow("selection") << "mnuForm26" << "frmLogin";
