@@ -4,6 +4,7 @@
 #include "core/messageboxes.h"
 #include "core/records.h"
 #include "core/storeerror.h"
+#include "core/startup.h"
 #include "core/storeupgrade.h"
 #include "returnfile/controltotals.h"
 #include "returnfile/generationflow.h"
@@ -139,8 +140,10 @@ int BatchGeneration::run(const Options &options, const QDateTime &now)
     QList<Target> targets;
     try {
         store = std::make_unique<DataStore>(options.storePath);
-        // A store of an older layout is brought up to date as the program's start would.
+        // A store of an older layout is brought up to date, and the folder of return files
+        // made, as the program's start would.
         storeupgrade::run(*store);
+        startup::createReturnsFolder(store->folder());
 
         const QString statements =
             QStringLiteral("SELECT BasicIfoID, CompID FROM %1 WHERE AsstID = ? AND Quarter = ?")
