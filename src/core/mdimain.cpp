@@ -8,6 +8,8 @@
 #include "core/startup.h"
 #include "core/storeerror.h"
 #include "masters/frmcompanymaster.h"
+#include "masters/frmdeducteemaster.h"
+#include "masters/frmemployeemaster.h"
 #include "masters/frmgroupmaster.h"
 #include "masters/referencemaster.h"
 #include "returnfile/frmshowforms.h"
@@ -34,8 +36,6 @@ struct PendingScreen
 };
 
 constexpr PendingScreen pendingScreens[] = {
-    {"frmEmployeeMaster", "The Employee Master"},
-    {"frmDeducteeMaster", "The Deductee Master"},
     {"frmImport", "Import Data"},
     {"frmForm24", "The Form 24Q statement"},
     {"frmForm26", "The Form 26Q statement"},
@@ -89,6 +89,10 @@ MdiMain::MdiMain(const QString &programFolder, Session &session, MessageBoxes &b
                      [this] { return new FrmGroupMaster(m_session, m_boxes); });
     setScreenFactory(QStringLiteral("frmCompanyMaster"),
                      [this] { return new FrmCompanyMaster(m_session, m_boxes); });
+    setScreenFactory(QStringLiteral("frmEmployeeMaster"),
+                     [this] { return new FrmEmployeeMaster(m_session, m_boxes); });
+    setScreenFactory(QStringLiteral("frmDeducteeMaster"),
+                     [this] { return new FrmDeducteeMaster(m_session, m_boxes); });
     for (const auto kind : {ReferenceMaster::Kind::State, ReferenceMaster::Kind::Category,
                             ReferenceMaster::Kind::Ministry}) {
         setScreenFactory(ReferenceMaster::screenName(kind), [this, kind] {

@@ -186,6 +186,9 @@ void TestMdiMain::screensOpenOnceAndAfresh_data()
     QTest::addColumn<QString>("screen");
     QTest::newRow("groups") << "mnuMaster(0)" << "frmGroupMaster";
     QTest::newRow("companies") << "mnuMaster(1)" << "frmCompanyMaster";
+    QTest::newRow("employees") << "mnuMaster(3)" << "frmEmployeeMaster";
+    QTest::newRow("deductees") << "mnuMaster(4)" << "frmDeducteeMaster";
+    QTest::newRow("employees again") << "mnuMaster(5)" << "frmEmployeeMaster";
     QTest::newRow("states") << "mnuMaster(2)" << "frmStateMaster";
     QTest::newRow("file viewer") << "Tool(2)" << "frmShowForms";
     QTest::newRow("selection") << "mnuForm26" << "frmLogin";

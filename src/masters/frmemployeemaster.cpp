@@ -1,0 +1,90 @@
+#include "masters/frmemployeemaster.h"
+
+#include "core/messageboxes.h"
+#include "core/storeerror.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+QDateEdit *dateEdit(const QString &name, QWidget *parent)
+{
+    auto *date = new QDateEdit(parent);
+    date->setObjectName(name);
+    date->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+    date->setCalendarPopup(true);
+    date->setDate(QDate::currentDate()); // until Add New sets the year's dates
+    return date;
+}
+
+} // namespace
+
+FrmEmployeeMaster::FrmEmployeeMaster(Session &session, MessageBoxes &boxes, QWidget *parent)
+    : PartyMasterForm(m_employees, boxes, parent),
+      m_employees(session, boxes),
+      m_designation(new QLineEdit(this)),
+      m_fromDate(dateEdit(QStringLiteral("dtpFromDate"), this)),
+      m_toDate(dateEdit(QStringLiteral("DtpToDate"), this)),
+      m_category(new QComboBox(this))
+{
+    setObjectName(QStringLiteral("frmEmployeeMaster"));
+    setWindowTitle(QStringLiteral("Employee Master"));
+    m_id->setObjectName(EmployeeMaster::idField);
+    m_name->setObjectName(EmployeeMaster::nameField);
+    m_designation->setObjectName(QStringLiteral("txtDesignation"));
+    m_designation->setMaxLength(15);
+    m_category->setObjectName(EmployeeMaster::categoryField);
+    m_category->addItems(EmployeeMaster::categories);
+
+    auto *grid = new QGridLayout;
+    const auto addField = [grid, this](int row, int column, const QString &caption,
+                                       QWidget *field) {
+        auto *label = new QLabel(caption, this);
+        label->setBuddy(field);
+        grid->addWidget(label, row, column);
+        grid->addWidget(field, row, column + 1);
+    };
+    addField(0, 0, QStringLiteral("Des&ignation"), m_designation);
+    addField(0, 2, QStringLiteral("C&ategory"), m_category);
+    addField(1, 0, QStringLiteral("&From Date"), m_fromDate);
+    addField(1, 2, QStringLiteral("&To Date"), m_toDate);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+
+    finishSetUp(QStringLiteral("Employee ID"), QStringLiteral("Employee Na&me"), grid,
+                {m_designation, m_fromDate, m_toDate, m_category});
+}
+
+void FrmEmployeeMaster::updateEmpInfo()
+{
+    readFields();
+    try {
+        m_employees.updateEmpInfo();
+    } catch (const StoreError &error) {
+        m_boxes.show({error.description(), appTitle, MessageIcon::Critical, MessageButtons::Ok});
+    }
+}
+
+void FrmEmployeeMaster::readOwnFields()
+{
+    EmployeeFields &fields = m_employees.fields();
+    fields.designation = m_designation->text();
+    fields.fromDate = m_fromDate->date();
+    fields.toDate = m_toDate->date();
+    fields.category = m_category->currentIndex();
+}
+
+void FrmEmployeeMaster::showOwnFields()
+{
+    const EmployeeFields &fields = m_employees.fields();
+    setText(m_designation, fields.designation);
+    if (fields.fromDate.isValid())
+        m_fromDate->setDate(fields.fromDate);
+    if (fields.toDate.isValid())
+        m_toDate->setDate(fields.toDate);
+    m_category->setCurrentIndex(fields.category);
+}
