@@ -108,8 +108,10 @@ const TableDefinition definitions[] = {
 #undef DEDUCTEE_ROW
 #undef SECTION_ROW
 
-/// The columns whose rows are joined on, indexed wherever a table has them.
-const QStringList joinColumns = {"BasicIfoID", "ChallanId", "CompID", "SalaryId", "GroupID"};
+/// The columns whose rows are joined on, indexed wherever a table has them; the party numbers
+/// of the statement rows are searched at every change of an employee or a deductee.
+const QStringList joinColumns = {"BasicIfoID", "ChallanId", "CompID", "SalaryId", "GroupID",
+                                 "EmpNo", "DeducteeNo"};
 
 struct Column
 {
@@ -185,27 +187,32 @@ QStringList tableNames(Layout layout)
 void createTable(const DataStore &store, const QString &table, Layout layout)
 {
     const TableDefinition &definition = definitionOf(table);
-    const QString name = QLatin1String(definition.name);
     QStringList declarations;
-    QStringList indexed;
     for (const Column &column : columnsOf(definition)) {
-        if (column.addedByUpgrade && layout == Layout::Older)
-            continue;
-        declarations << quoted(column.name) + u' ' + column.declaration;
-        if (joinColumns.contains(column.name, Qt::CaseInsensitive)
-            && column.name.compare(QLatin1String(definition.key ? definition.key : ""),
-                                   Qt::CaseInsensitive) != 0)
-            indexed << column.name;
+        if (!column.addedByUpgrade || layout == Layout::Current)
+            declarations << quoted(column.name) + u' ' + column.declaration;
     }
-    store.exec(QStringLiteral("CREATE TABLE %1 (%2)").arg(quoted(name), declarations.join(", ")));
-    if (definition.key) {
-        const QString key = QLatin1String(definition.key);
-        store.exec(QStringLiteral("CREATE UNIQUE INDEX %1 ON %2 (%3)")
+    store.exec(QStringLiteral("CREATE TABLE %1 (%2)")
+                   .arg(quoted(QLatin1String(definition.name)), declarations.join(", ")));
+    createIndexes(store, table);
+}
+
+void createIndexes(const DataStore &store, const QString &table)
+{
+    const TableDefinition &definition = definitionOf(table);
+    const QString name = QLatin1String(definition.name);
+    const QString key = QLatin1String(definition.key ? definition.key : "");
+    if (!key.isEmpty()) {
+        store.exec(QStringLiteral("CREATE UNIQUE INDEX IF NOT EXISTS %1 ON %2 (%3)")
                        .arg(quoted(name + u'_' + key), quoted(name), quoted(key)));
     }
-    for (const QString &column : indexed) {
-        store.exec(QStringLiteral("CREATE INDEX %1 ON %2 (%3)")
-                       .arg(quoted(name + u'_' + column), quoted(name), quoted(column)));
+    for (const Column &column : columnsOf(definition)) {
+        if (!joinColumns.contains(column.name, Qt::CaseInsensitive)
+            || column.name.compare(key, Qt::CaseInsensitive) == 0)
+            continue;
+        store.exec(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)")
+                       .arg(quoted(name + u'_' + column.name), quoted(name),
+                            quoted(column.name)));
     }
 }
 

@@ -20,6 +20,10 @@ QStringList tableNames(Layout layout);
 /// Creates one table of the current layout, with its indexes.
 void createTable(const DataStore &store, const QString &table, Layout layout = Layout::Current);
 
+/// Creates the indexes of a table that it does not have yet: a unique one on its key and an
+/// ordinary one on each column that rows are joined or searched on.
+void createIndexes(const DataStore &store, const QString &table);
+
 /// Creates every table of the layout, with its indexes.
 void createAll(const DataStore &store, Layout layout);
 

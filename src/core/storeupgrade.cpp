@@ -164,6 +164,8 @@ void run(const DataStore &store)
     addMinistries(store);
     addCategories(store);
     addColumns(store);
+    for (const QString &table : schema::tableNames(schema::Layout::Current))
+        schema::createIndexes(store, table);
     store.exec(QStringLiteral("PRAGMA user_version = %1").arg(currentVersion));
 }
 

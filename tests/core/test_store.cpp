@@ -170,6 +170,19 @@ private slots:
         QCOMPARE(schemaOf(store), schemaOf(current));
     }
 
+    void indexesMissingFromAnOlderStoreAreMade()
+    {
+        QTemporaryDir dir;
+        DataStore store(olderStore(dir));
+        store.exec(QStringLiteral("DROP INDEX \"TranDeducteeE26_DeducteeNo\""));
+        store.exec(QStringLiteral("DROP INDEX \"mstGroup_GroupID\""));
+        storeupgrade::run(store);
+        DataStore current(dir.filePath(QStringLiteral("current.db")),
+                          DataStore::OpenMode::CreateFile);
+        schema::createAll(current, schema::Layout::Current);
+        QCOMPARE(schemaOf(store), schemaOf(current));
+    }
+
     void chapterViaSectionsAreSeededOnlyIntoAnEmptyList()
     {
         QTemporaryDir dir;
