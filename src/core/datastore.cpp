@@ -39,7 +39,7 @@ DataStore::DataStore(const QString &path, OpenMode mode)
     }
     try {
         // SQLite opens any file lazily: reading the catalogue is what tells a store from a
-        // file of another kind, and foreign keys stay off because integrity is kept by the screens.
+        // file of another kind.
         scalar(QStringLiteral("SELECT count(*) FROM sqlite_master"));
     } catch (...) {
         db.close();
@@ -104,7 +104,8 @@ bool DataStore::tableExists(const QString &table) const
 
 bool DataStore::columnExists(const QString &table, const QString &column) const
 {
-    return hasRows(QStringLiteral("SELECT 1 FROM sqlite_master AS t, pragma_table_info(t.name) AS c "
+    return hasRows(QStringLiteral("SELECT 1 FROM sqlite_master AS t, "
+                                  "pragma_table_info(t.name) AS c "
                                   "WHERE t.type = 'table' AND lower(t.name) = lower(?) "
                                   "AND lower(c.name) = lower(?)"),
                    {table, column});

@@ -1,5 +1,6 @@
 #include "core/frmlogin.h"
 
+#include "core/screenroutines.h"
 #include "core/session.h"
 
 #include <QComboBox>
@@ -9,7 +10,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTreeWidget>
@@ -94,10 +94,10 @@ FrmLogin::FrmLogin(Session &session, MessageBoxes &boxes, QWidget *parent)
     connect(m_quarter, &QComboBox::currentIndexChanged, this, &FrmLogin::getQuarter);
     connect(m_companies, &QTreeWidget::itemDoubleClicked, this, &FrmLogin::runSelection);
     connect(m_select, &QPushButton::clicked, this, &FrmLogin::runSelection);
-    connect(m_cancel, &QPushButton::clicked, this, &FrmLogin::closeScreen);
+    connect(m_cancel, &QPushButton::clicked, this, [this] { screenroutines::closeScreen(this); });
     auto *escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(escape, &QShortcut::activated, this, &FrmLogin::closeScreen);
+    connect(escape, &QShortcut::activated, this, [this] { screenroutines::closeScreen(this); });
 
     // The user comes here to pick a company: the list has the focus when the screen shows.
     m_companies->setFocus();
@@ -173,13 +173,5 @@ void FrmLogin::runSelection()
     if (outcome.next != CompanySelection::Next::Nothing)
         emit selected(outcome);
     if (outcome.closeSelection)
-        closeScreen();
-}
-
-void FrmLogin::closeScreen()
-{
-    if (auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget()))
-        frame->close();
-    else
-        close();
+        screenroutines::closeScreen(this);
 }

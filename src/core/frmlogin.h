@@ -37,7 +37,6 @@ private:
     void groupChanged();
     void fillCompanies();
     void runSelection();
-    void closeScreen();
 
     CompanySelection m_selection;
     QComboBox *m_group;

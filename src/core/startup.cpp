@@ -19,7 +19,8 @@ void prepareStore(Session &session)
 {
     session.asstId = 1;
     storeupgrade::run(session.store);
-    const QVariant faYear = session.store.scalar(QStringLiteral("SELECT FAYear FROM mstAssessment"));
+    const QVariant faYear =
+        session.store.scalar(QStringLiteral("SELECT FAYear FROM mstAssessment"));
     session.asstFaYearStart = records::nullToText(faYear).left(4);
 }
 

@@ -3,6 +3,7 @@
 #include "core/fieldchecks.h"
 #include "core/keyfilters.h"
 #include "core/messageboxes.h"
+#include "core/screenroutines.h"
 #include "core/storeerror.h"
 #include "masters/companyvalidation.h"
 
@@ -17,6 +18,8 @@
 #include <QLineEdit>
 #include <QTimer>
 #include <QValidator>
+
+using screenroutines::isEnterKey;
 
 namespace {
 
@@ -176,15 +179,8 @@ const CompanyMaster::Reference *findByName(const QList<CompanyMaster::Reference>
     return nullptr;
 }
 
-bool isEnterKey(const QEvent *event)
-{
-    if (event->type() != QEvent::KeyPress)
-        return false;
-    const int key = static_cast<const QKeyEvent *>(event)->key();
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
 } // namespace
+
 CompanyFieldsPanel::CompanyFieldsPanel(const CompanyMaster &master, MessageBoxes &boxes,
                                        QWidget *parent)
     : QWidget(parent), m_master(master), m_boxes(boxes), m_statusCaption(new QLabel(this))

@@ -2,6 +2,7 @@
 
 #include "core/messageboxes.h"
 #include "core/numbers.h"
+#include "core/screenroutines.h"
 #include "core/session.h"
 #include "core/storeerror.h"
 #include "core/widgetroutines.h"
@@ -13,32 +14,17 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+using screenroutines::isEnterKey;
+using screenroutines::commandButton;
 
 namespace {
 
 enum Column { NameColumn, TanColumn, PanColumn, OfficerColumn, PrefixColumn, GroupColumn,
               IdColumn };
-
-QPushButton *commandButton(const QString &caption, const QString &name, QWidget *parent)
-{
-    auto *button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    // Enter on a focused button presses it, so the screen works from the keyboard alone.
-    button->setAutoDefault(true);
-    return button;
-}
-
-bool isEnterKey(const QEvent *event)
-{
-    if (event->type() != QEvent::KeyPress)
-        return false;
-    const int key = static_cast<const QKeyEvent *>(event)->key();
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
 
 } // namespace
 
@@ -109,7 +95,7 @@ FrmCompanyMaster::FrmCompanyMaster(Session &session, MessageBoxes &boxes, QWidge
     connect(m_save, &QPushButton::clicked, this, &FrmCompanyMaster::saveCompany);
     connect(m_cancel, &QPushButton::clicked, this, &FrmCompanyMaster::cancelEntry);
     connect(m_delete, &QPushButton::clicked, this, &FrmCompanyMaster::deleteCompany);
-    connect(m_close, &QPushButton::clicked, this, &FrmCompanyMaster::closeScreen);
+    connect(m_close, &QPushButton::clicked, this, [this] { screenroutines::closeScreen(this); });
     connect(m_list, &QTreeWidget::itemDoubleClicked, this, &FrmCompanyMaster::editCompany);
 
     setCommandButtons(true);
@@ -239,14 +225,6 @@ void FrmCompanyMaster::deleteCompany()
     m_list->setFocus();
 }
 
-void FrmCompanyMaster::closeScreen()
-{
-    if (auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget()))
-        frame->close();
-    else
-        close();
-}
-
 void FrmCompanyMaster::setCommandButtons(bool browse)
 {
     m_editing = !browse;
@@ -300,7 +278,6 @@ void FrmCompanyMaster::fillList(int selectCompId)
     if (current)
         m_list->setCurrentItem(current);
 }
-
 
 QLineEdit *FrmCompanyMaster::groupIdField() const
 {

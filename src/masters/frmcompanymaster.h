@@ -32,7 +32,6 @@ private:
     void saveCompany();
     void cancelEntry();
     void deleteCompany();
-    void closeScreen();
 
     void setCommandButtons(bool browse);
     void filterGroupChanged();

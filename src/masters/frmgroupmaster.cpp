@@ -3,6 +3,7 @@
 #include "core/fieldchecks.h"
 #include "core/keyfilters.h"
 #include "core/messageboxes.h"
+#include "core/screenroutines.h"
 #include "core/session.h"
 #include "core/storeerror.h"
 
@@ -13,33 +14,18 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+using screenroutines::isEnterKey;
+using screenroutines::commandButton;
 
 namespace {
 
 enum Column { CodeColumn, NameColumn };
 
 constexpr int nameLength = 30;
-
-QPushButton *commandButton(const QString &caption, const QString &name, QWidget *parent)
-{
-    auto *button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    // Enter on a focused button presses it, so the screen works from the keyboard alone.
-    button->setAutoDefault(true);
-    return button;
-}
-
-bool isEnterKey(const QEvent *event)
-{
-    if (event->type() != QEvent::KeyPress)
-        return false;
-    const int key = static_cast<const QKeyEvent *>(event)->key();
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
 
 } // namespace
 
@@ -121,7 +107,7 @@ FrmGroupMaster::FrmGroupMaster(Session &session, MessageBoxes &boxes, QWidget *p
     connect(m_save, &QPushButton::clicked, this, &FrmGroupMaster::saveGroup);
     connect(m_cancel, &QPushButton::clicked, this, &FrmGroupMaster::cancelEntry);
     connect(m_delete, &QPushButton::clicked, this, &FrmGroupMaster::deleteGroup);
-    connect(m_close, &QPushButton::clicked, this, &FrmGroupMaster::closeScreen);
+    connect(m_close, &QPushButton::clicked, this, [this] { screenroutines::closeScreen(this); });
     connect(m_list, &QTreeWidget::itemDoubleClicked, this, &FrmGroupMaster::editGroup);
     connect(m_name, &QLineEdit::textEdited, this, &FrmGroupMaster::showMatchingNames);
 
@@ -242,14 +228,6 @@ void FrmGroupMaster::deleteGroup()
     m_boxes.show({GroupMaster::deletedText});
     fillList();
     m_list->setFocus();
-}
-
-void FrmGroupMaster::closeScreen()
-{
-    if (auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget()))
-        frame->close();
-    else
-        close();
 }
 
 void FrmGroupMaster::setCommandButtons(bool browse)

@@ -30,7 +30,6 @@ private:
     void saveGroup();
     void cancelEntry();
     void deleteGroup();
-    void closeScreen();
 
     void setCommandButtons(bool browse);
     void fillList(int selectId = 0);

@@ -4,6 +4,7 @@
 #include "core/fieldchecks.h"
 #include "core/keyfilters.h"
 #include "core/masterbuttonbar.h"
+#include "core/screenroutines.h"
 #include "masters/partymaster.h"
 
 #include <QApplication>
@@ -13,7 +14,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTreeView>
@@ -166,7 +166,7 @@ void PartyMasterForm::finishSetUp(const QString &idCaption, const QString &nameC
             &PartyMasterForm::selectListRow);
     connect(m_list, &QTreeView::doubleClicked, this, &PartyMasterForm::loadListRow);
     connect(m_bar, &MasterButtonBar::clicked, this, &PartyMasterForm::runCommand);
-    connect(m_close, &QPushButton::clicked, this, &PartyMasterForm::closeScreen);
+    connect(m_close, &QPushButton::clicked, this, [this] { screenroutines::closeScreen(this); });
     connect(m_group, &QComboBox::currentIndexChanged, this, &PartyMasterForm::groupChosen);
 
     m_master.load();
@@ -426,12 +426,4 @@ void PartyMasterForm::fitWidth(QWidget *field, int characters)
 {
     field->setMaximumWidth(field->fontMetrics().horizontalAdvance(QLatin1Char('W')) * characters
                            + 24);
-}
-
-void PartyMasterForm::closeScreen()
-{
-    if (auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget()))
-        frame->close();
-    else
-        close();
 }

@@ -79,7 +79,6 @@ private:
     bool leaveField(QWidget *field);
     void moveToNextField(QWidget *from);
     QWidget *fieldOf(QObject *watched) const;
-    void closeScreen();
 
     PartyMaster &m_master;
     QList<QWidget *> m_fieldOrder;

@@ -3,11 +3,11 @@
 #include "core/datastore.h"
 #include "core/messageboxes.h"
 #include "core/records.h"
+#include "core/screenroutines.h"
 #include "core/storeerror.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QSqlQuery>
 #include <QTreeWidget>
@@ -62,7 +62,7 @@ ReferenceMaster::ReferenceMaster(Kind kind, const DataStore &store, MessageBoxes
 
     auto *close = new QPushButton(QStringLiteral("&Close"), this);
     close->setObjectName(QStringLiteral("cmdClose"));
-    connect(close, &QPushButton::clicked, this, &ReferenceMaster::closeScreen);
+    connect(close, &QPushButton::clicked, this, [this] { screenroutines::closeScreen(this); });
 
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -115,12 +115,4 @@ void ReferenceMaster::sortByColumn(int column)
     m_list->header()->setSortIndicatorShown(true);
     m_list->header()->setSortIndicator(column, m_sortOrder);
     m_list->sortItems(column, m_sortOrder);
-}
-
-void ReferenceMaster::closeScreen()
-{
-    if (auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget()))
-        frame->close();
-    else
-        close();
 }

@@ -27,7 +27,6 @@ public:
 private:
     void fill(const DataStore &store, const QString &statement, MessageBoxes &boxes);
     void sortByColumn(int column);
-    void closeScreen();
 
     QTreeWidget *m_list;
     int m_sortColumn = -1;

@@ -1,6 +1,7 @@
 #include "returnfile/frmshowforms.h"
 
 #include "core/messageboxes.h"
+#include "core/screenroutines.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,7 +11,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -70,7 +70,7 @@ FrmShowForms::FrmShowForms(const QString &startFolder, MessageBoxes &boxes, QWid
     connect(browse, &QToolButton::clicked, this, &FrmShowForms::choosePath);
     connect(show, &QPushButton::clicked, this, &FrmShowForms::showFile);
     connect(refresh, &QPushButton::clicked, this, &FrmShowForms::refresh);
-    connect(close, &QPushButton::clicked, this, &FrmShowForms::closeScreen);
+    connect(close, &QPushButton::clicked, this, [this] { screenroutines::closeScreen(this); });
     resize(640, 480);
 }
 
@@ -116,14 +116,6 @@ void FrmShowForms::refresh()
 {
     m_path->clear();
     m_text->clear();
-}
-
-void FrmShowForms::closeScreen()
-{
-    if (auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget()))
-        frame->close();
-    else
-        close();
 }
 
 void FrmShowForms::fail(const QString &text)

@@ -23,7 +23,6 @@ public:
 private:
     void choosePath();
     void refresh();
-    void closeScreen();
     void fail(const QString &text);
 
     QString m_startFolder;

@@ -208,8 +208,8 @@ private slots:
     {
         QTemporaryDir dir;
         DataStore store(olderStore(dir));
-        QSqlQuery year = store.exec(QStringLiteral(
-            "SELECT AsstID, FAYear, AsstYear, StartDt, EndDt, LastDtOfPayment FROM mstAssessment"));
+        QSqlQuery year = store.exec(QStringLiteral("SELECT AsstID, FAYear, AsstYear, StartDt, "
+                                                   "EndDt, LastDtOfPayment FROM mstAssessment"));
         QVERIFY(year.next());
         QCOMPARE(year.value(0).toInt(), 1);
         QCOMPARE(year.value(1).toString(), QStringLiteral("202627"));
@@ -226,11 +226,13 @@ private slots:
         QCOMPARE(store.scalar(QStringLiteral(
                      "SELECT StateCode FROM mstState WHERE StateName = 'telangana'")).toString(),
                  QStringLiteral("36"));
-        QCOMPARE(store.scalar(QStringLiteral(
-                     "SELECT count(*) FROM mstSections24 WHERE SectionType = 'SEC16'")).toInt(), 3);
-        QCOMPARE(store.scalar(QStringLiteral("SELECT count(*) FROM mstSections26")).toInt(), 14);
-        QCOMPARE(store.scalar(QStringLiteral("SELECT count(*) FROM mstSections27")).toInt(), 6);
-        QCOMPARE(store.scalar(QStringLiteral("SELECT count(*) FROM mstCollectionCode")).toInt(), 9);
+        const auto count = [&store](const char *sql) {
+            return store.scalar(QString::fromLatin1(sql)).toInt();
+        };
+        QCOMPARE(count("SELECT count(*) FROM mstSections24 WHERE SectionType = 'SEC16'"), 3);
+        QCOMPARE(count("SELECT count(*) FROM mstSections26"), 14);
+        QCOMPARE(count("SELECT count(*) FROM mstSections27"), 6);
+        QCOMPARE(count("SELECT count(*) FROM mstCollectionCode"), 9);
         QCOMPARE(store.scalar(QStringLiteral(
                      "SELECT count(*) FROM mstSections26 WHERE ifnull(Description, '') = ''"))
                      .toInt(),

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+class QEvent;
+class QPushButton;
+class QWidget;
+
+/// Small routines that every screen of the program shares.
+namespace screenroutines {
+
+/// Closes a screen: its window in the main window's area, or the screen itself when it stands
+/// alone (as in tests).
+void closeScreen(QWidget *screen);
+
+/// A key press of Enter, on the main keyboard or the keypad: entry moves along the fields on it.
+bool isEnterKey(const QEvent *event);
+
+/// A named command button that Enter presses when it has the focus, so that a screen can be
+/// worked from the keyboard alone.
+QPushButton *commandButton(const QString &caption, const QString &name, QWidget *parent);
+
+} // namespace screenroutines
