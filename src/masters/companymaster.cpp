@@ -53,11 +53,6 @@ void resolve(const QList<CompanyMaster::Reference> &list, QString &name, QString
     name.clear();
 }
 
-QString formLabel(const FormTraits &form)
-{
-    return QStringLiteral("Form ") + form.reportForm.mid(4);
-}
-
 bool typeIn(const QString &type, const char *types)
 {
     const QString code = type.trimmed().toUpper();
@@ -228,7 +223,7 @@ std::optional<Message> CompanyMaster::deleteRefusal(int compId) const
                               .arg(form.basicInfoTable),
                           {compId})) {
             return Message{QStringLiteral("This Company is related to existing ")
-                               + formLabel(form),
+                               + form.messageName,
                            cannotDeleteTitle, MessageIcon::Information};
         }
     }

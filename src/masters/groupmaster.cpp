@@ -20,12 +20,6 @@ QString likePrefix(const QString &typed)
     return pattern + u'%';
 }
 
-// "Form24" as the warnings name it: "Form 24".
-QString formLabel(const FormTraits &form)
-{
-    return QStringLiteral("Form ") + form.reportForm.mid(4);
-}
-
 } // namespace
 
 GroupMaster::GroupMaster(const DataStore &store) : m_store(store)
@@ -34,8 +28,8 @@ GroupMaster::GroupMaster(const DataStore &store) : m_store(store)
 
 int GroupMaster::nextId() const
 {
-    const QVariant max = m_store.scalar(QStringLiteral("SELECT max(GroupID) FROM mstGroup"));
-    return max.isNull() ? 1 : max.toInt() + 1;
+    return static_cast<int>(
+        records::nextId(m_store, QStringLiteral("mstGroup"), QStringLiteral("GroupID")));
 }
 
 QList<GroupMaster::Group> GroupMaster::groups() const
@@ -89,7 +83,7 @@ QList<Message> GroupMaster::questions(const Entry &entry) const
             {entry.id});
         if (used) {
             asked.append({QStringLiteral("This Group Is Used In [%1] Like To Update.")
-                              .arg(formLabel(form)),
+                              .arg(form.messageName),
                           appTitle, MessageIcon::Question, MessageButtons::YesNo});
         }
     }

@@ -242,7 +242,7 @@ void PartyMaster::deleteRecord(bool &cancel)
                                                  m_traits.numberColumn),
                                         {id})) {
                 m_boxes.show({QStringLiteral("Cannot delete the %1. Entry of the %1 exists in %2")
-                                  .arg(m_traits.word, formLabel(kind)),
+                                  .arg(m_traits.word, formTraits(kind).messageName),
                               appTitle, MessageIcon::Information, MessageButtons::Ok});
                 cancel = true;
                 requestFocus(listField);
@@ -309,7 +309,7 @@ QList<PartyMaster::Question> PartyMaster::questions() const
                                                  m_traits.numberColumn),
                                         {values.id}))
                 asked.append({{QStringLiteral("Entry of the %1 exists in %2 like to update.")
-                                   .arg(m_traits.word, formLabel(kind)),
+                                   .arg(m_traits.word, formTraits(kind).messageName),
                                appTitle, MessageIcon::Question, MessageButtons::YesNo},
                               m_traits.nameField});
         }
@@ -405,11 +405,4 @@ void PartyMaster::showSaveError(const StoreError &error)
     } else {
         m_boxes.show({unableToSaveText, appTitle, MessageIcon::Critical, MessageButtons::Ok});
     }
-}
-
-QString PartyMaster::formLabel(FormKind kind) const
-{
-    // "Form24" of the printouts is "Form 24" in the masters' messages.
-    const QString &report = formTraits(kind).reportForm;
-    return QStringLiteral("Form ") + report.mid(4);
 }

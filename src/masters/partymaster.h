@@ -190,7 +190,6 @@ private:
     void clearFields();
     void reloadList();
     void showSaveError(const StoreError &error);
-    QString formLabel(FormKind kind) const;
 
     Session &m_session;
     MessageBoxes &m_boxes;

@@ -35,6 +35,8 @@ struct FormTraits
     QString salaryTable;       ///< SD rows (24Q only), with the two tables of their sub-lines:
     QString section16Table;    ///< S16 lines
     QString chapterVIATable;   ///< C6A lines
+
+    QString messageName; ///< "Form 24": the form as the masters' messages name it
 };
 
 /// The traits of the four forms, in menu order.
