@@ -58,12 +58,19 @@ std::optional<qint64> wholeRupees(const QVariant &value)
 
 QString formatted(qint64 paise, int wholeDigits)
 {
+    // Built by hand rather than through a format: a return file formats millions of amounts.
     const bool negative = paise < 0;
     const qint64 magnitude = negative ? -paise : paise;
-    return QStringLiteral("%1%2.%3")
-        .arg(negative ? QStringLiteral("-") : QString())
-        .arg(magnitude / 100, wholeDigits, 10, QLatin1Char('0'))
-        .arg(magnitude % 100, 2, 10, QLatin1Char('0'));
+    QString text = QString::number(magnitude / 100);
+    if (text.size() < wholeDigits)
+        text.prepend(QString(wholeDigits - text.size(), u'0'));
+    if (negative)
+        text.prepend(u'-');
+    const int hundredths = static_cast<int>(magnitude % 100);
+    text += u'.';
+    text += QChar(u'0' + hundredths / 10);
+    text += QChar(u'0' + hundredths % 10);
+    return text;
 }
 
 } // namespace
