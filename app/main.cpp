@@ -1,9 +1,10 @@
 #include "core/datastore.h"
-#include "core/mdimain.h"
+#include "shell/mdimain.h"
 #include "core/qtmessageboxes.h"
 #include "core/session.h"
 #include "core/startup.h"
 #include "core/storeerror.h"
+#include "shell/screenfactories.h"
 
 #include <QApplication>
 #include <memory>
@@ -27,6 +28,7 @@ int main(int argc, char *argv[])
 
     Session session(*store);
     MdiMain mainWindow(programFolder, session, boxes);
+    registerScreens(mainWindow, session, boxes);
     boxes.setParent(&mainWindow);
     mainWindow.showMaximized();
     mainWindow.load();

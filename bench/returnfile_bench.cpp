@@ -10,7 +10,7 @@
 #include "core/storeupgrade.h"
 #include "core/transaction.h"
 #include "returnfile/generationflow.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -5,7 +5,7 @@
 #include "core/numbers.h"
 #include "core/records.h"
 #include "core/session.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QSqlQuery>
 

@@ -5,7 +5,7 @@
 #include "core/records.h"
 #include "core/session.h"
 #include "core/transaction.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QSqlQuery>
 #include <QSqlRecord>

@@ -4,7 +4,7 @@
 #include "core/messageboxes.h"
 #include "core/records.h"
 #include "masters/companyentry.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "core/datastore.h"
 #include "core/records.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QSqlQuery>
 

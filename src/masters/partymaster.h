@@ -3,7 +3,7 @@
 #include "core/clsoperation.h"
 #include "core/fieldfailure.h"
 #include "masters/partylistmodel.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QList>
 #include <QString>

@@ -8,7 +8,7 @@
 #include "core/storeupgrade.h"
 #include "returnfile/controltotals.h"
 #include "returnfile/generationflow.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QCommandLineParser>
 #include <QDir>

@@ -3,7 +3,7 @@
 #include "returnfile/batchtotals.h"
 #include "returnfile/deductorcodes.h"
 #include "returnfile/sourcerows.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "returnfile/batchtotals.h"
 
 #include "core/datastore.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QSqlQuery>
 

@@ -1,7 +1,7 @@
 #include "returnfile/challanrecord.h"
 
 #include "returnfile/sourcerows.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QStringList>
 

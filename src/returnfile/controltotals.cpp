@@ -3,7 +3,7 @@
 #include "core/datastore.h"
 #include "core/numbers.h"
 #include "core/wholerupeesum.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <array>
 

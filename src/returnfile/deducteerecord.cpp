@@ -2,7 +2,7 @@
 
 #include "core/numbers.h"
 #include "returnfile/sourcerows.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QLocale>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "returnfile/fileheaderrecord.h"
 
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QDate>
 

@@ -9,7 +9,7 @@
 #include "returnfile/controltotals.h"
 #include "returnfile/generationlog.h"
 #include "returnfile/returnfileerror.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QDir>
 #include <QSqlQuery>

@@ -10,7 +10,7 @@
 #include "returnfile/returnfileerror.h"
 #include "returnfile/salaryrecord.h"
 #include "returnfile/sourcerows.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QList>
 #include <QSaveFile>

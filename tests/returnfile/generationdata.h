@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/datastore.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QString>
 #include <QVariant>

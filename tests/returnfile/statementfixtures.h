@@ -1,6 +1,6 @@
 #pragma once
 
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <QList>
 #include <QPair>

@@ -1,5 +1,5 @@
 #include "generationdata.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 #include "support/teststore.h"
 
 #include <QDir>

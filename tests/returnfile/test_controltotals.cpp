@@ -1,7 +1,7 @@
 #include "returnfile/controltotals.h"
 
 #include "generationdata.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 #include "support/teststore.h"
 
 #include <QSqlQuery>

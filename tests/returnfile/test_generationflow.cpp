@@ -2,7 +2,7 @@
 
 #include "core/storeerror.h"
 #include "generationdata.h"
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 #include "support/scriptedmessageboxes.h"
 #include "support/teststore.h"
 

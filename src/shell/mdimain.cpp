@@ -1,4 +1,4 @@
-#include "core/mdimain.h"
+#include "shell/mdimain.h"
 
 #include "core/datastore.h"
 #include "core/frmabout.h"
@@ -7,12 +7,6 @@
 #include "core/session.h"
 #include "core/startup.h"
 #include "core/storeerror.h"
-#include "masters/frmcompanymaster.h"
-#include "masters/frmdeducteemaster.h"
-#include "masters/frmemployeemaster.h"
-#include "masters/frmgroupmaster.h"
-#include "masters/referencemaster.h"
-#include "returnfile/frmshowforms.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -85,24 +79,6 @@ MdiMain::MdiMain(const QString &programFolder, Session &session, MessageBoxes &b
         connect(login, &FrmLogin::selected, this, &MdiMain::openSelected);
         return login;
     });
-    setScreenFactory(QStringLiteral("frmGroupMaster"),
-                     [this] { return new FrmGroupMaster(m_session, m_boxes); });
-    setScreenFactory(QStringLiteral("frmCompanyMaster"),
-                     [this] { return new FrmCompanyMaster(m_session, m_boxes); });
-    setScreenFactory(QStringLiteral("frmEmployeeMaster"),
-                     [this] { return new FrmEmployeeMaster(m_session, m_boxes); });
-    setScreenFactory(QStringLiteral("frmDeducteeMaster"),
-                     [this] { return new FrmDeducteeMaster(m_session, m_boxes); });
-    for (const auto kind : {ReferenceMaster::Kind::State, ReferenceMaster::Kind::Category,
-                            ReferenceMaster::Kind::Ministry}) {
-        setScreenFactory(ReferenceMaster::screenName(kind), [this, kind] {
-            return new ReferenceMaster(kind, m_session.store, m_boxes);
-        });
-    }
-    setScreenFactory(QStringLiteral("frmShowForms"), [this] {
-        return new FrmShowForms(startup::returnsFolder(m_session.store.folder()), m_boxes);
-    });
-
     buildMenus();
     resize(1024, 720);
 }

@@ -1,8 +1,9 @@
 #include "core/companyselection.h"
-#include "core/mdimain.h"
 #include "core/session.h"
 #include "core/startup.h"
-#include "selectiondata.h"
+#include "core/selectiondata.h"
+#include "shell/mdimain.h"
+#include "shell/screenfactories.h"
 #include "support/scriptedmessageboxes.h"
 #include "support/teststore.h"
 
@@ -30,6 +31,7 @@ struct Fixture
           session(data.store()),
           window(folder.isEmpty() ? data.folder() : folder, session, boxes)
     {
+        registerScreens(window, session, boxes);
         startup::readAssessmentPeriod(session);
         window.setProgramEnd([this] { ended = true; });
     }

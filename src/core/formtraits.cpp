@@ -1,4 +1,4 @@
-#include "statements/formtraits.h"
+#include "core/formtraits.h"
 
 #include <array>
 
