@@ -5,10 +5,10 @@
 inline const QString appTitle = QStringLiteral("Kelvora");
 
 enum class MessageIcon { None, Information, Question, Warning, Critical };
-enum class MessageButtons { Ok, YesNo };
+enum class MessageButtons { Ok, YesNo, YesNoCancel };
 
 /// The answer of a box, with the values that the screens have always compared against.
-enum class Answer { None = 0, Ok = 1, Yes = 6, No = 7 };
+enum class Answer { None = 0, Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 
 struct Message
 {

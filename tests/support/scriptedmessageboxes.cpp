@@ -5,7 +5,12 @@ Answer ScriptedMessageBoxes::show(const Message &message)
     shown.append(message);
     if (!m_answers.isEmpty())
         return m_answers.takeFirst();
-    return message.buttons == MessageButtons::YesNo ? Answer::No : Answer::Ok;
+    switch (message.buttons) {
+    case MessageButtons::YesNo: return Answer::No;
+    case MessageButtons::YesNoCancel: return Answer::Cancel;
+    case MessageButtons::Ok: break;
+    }
+    return Answer::Ok;
 }
 
 QStringList ScriptedMessageBoxes::texts() const

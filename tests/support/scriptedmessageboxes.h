@@ -4,8 +4,8 @@
 
 #include <QList>
 
-/// Records every box the code shows and answers from a queue (Ok or No when the queue is empty,
-/// so that an unexpected question never deletes or ends anything).
+/// Records every box the code shows and answers from a queue (Ok, No or Cancel when the queue is
+/// empty, so that an unexpected question never deletes or ends anything).
 class ScriptedMessageBoxes : public MessageBoxes
 {
 public:
