@@ -1,22 +1,47 @@
 #include "core/formtraits.h"
 
-#include <array>
-
 namespace {
 
 const std::array<FormTraits, 4> forms = {{
-    {FormKind::Form24Q, "24Q", "Form24", "frmForm24", "TranBasicInfoE24", "TranChallanE24",
-     "TranEmployeeE24", "mstSections24", "SL1", true, "EmpID", "EmpName", true, "", "",
-     "TranSalaryE24", "TranSec16E24", "TranSecViAE24", "Form 24"},
-    {FormKind::Form26Q, "26Q", "Form26", "frmForm26", "TranBasicInfoE26", "TranChallanE26",
-     "TranDeducteeE26", "mstSections26", "NS1", false, "DeducteeID", "DeducteeName", false, "",
-     "", "", "", "", "Form 26"},
-    {FormKind::Form27Q, "27Q", "Form27", "frmForm27", "TranBasicInfoE27", "TranChallanE27",
-     "TranDeducteeE27", "mstSections27", "NS1", false, "DeducteeID", "DeducteeName", false,
-     "GrossingUpIndicator", "", "", "", "", "Form 27"},
-    {FormKind::Form27EQ, "27EQ", "Form27E", "frmForm27E", "TranBasicInfoE27E",
-     "TranChallanE27E", "TranDeducteeE27E", "mstCollectionCode", "TC1", false, "DeducteeID",
-     "DeducteeName", false, "", "TotvalPur", "", "", "", "Form 27E"},
+    {.kind = FormKind::Form24Q, .formType = "24Q", .reportForm = "Form24",
+     .screenName = "frmForm24", .basicInfoTable = "TranBasicInfoE24",
+     .challanTable = "TranChallanE24", .annexureTable = "TranEmployeeE24",
+     .sectionTable = "mstSections24", .sectionColumn = "SectionName", .fileType = "SL1",
+     .hasSalaryDetail = true, .collectsTax = false, .partyWord = "Employee",
+     .partyMaster = "frmEmployeeMaster",
+     .challanItems = {301, 0, 302, 303, 304, 305, 306, 307, 308, 309, 310, 311, 311},
+     .annexureKey = "EmpID", .partyNameColumn = "EmpName", .salaryLayout = true,
+     .salaryTable = "TranSalaryE24", .section10Table = "TranSec10E24",
+     .section16Table = "TranSec16E24", .section88Table = "TranSec88E24",
+     .chapterVIATable = "TranSecViAE24", .messageName = "Form 24"},
+    {.kind = FormKind::Form26Q, .formType = "26Q", .reportForm = "Form26",
+     .screenName = "frmForm26", .basicInfoTable = "TranBasicInfoE26",
+     .challanTable = "TranChallanE26", .annexureTable = "TranDeducteeE26",
+     .sectionTable = "mstSections26", .sectionColumn = "SectionName", .fileType = "NS1",
+     .hasSalaryDetail = false, .collectsTax = false, .partyWord = "Deductee",
+     .partyMaster = "frmDeducteeMaster",
+     .challanItems = {401, 402, 403, 404, 405, 406, 407, 408, 409, 410, 411, 412, 412},
+     .annexureKey = "DeducteeID", .partyNameColumn = "DeducteeName", .salaryLayout = false,
+     .messageName = "Form 26"},
+    // The cheque number of 27Q has always been labelled with 26Q's item number.
+    {.kind = FormKind::Form27Q, .formType = "27Q", .reportForm = "Form27",
+     .screenName = "frmForm27", .basicInfoTable = "TranBasicInfoE27",
+     .challanTable = "TranChallanE27", .annexureTable = "TranDeducteeE27",
+     .sectionTable = "mstSections27", .sectionColumn = "SectionName", .fileType = "NS1",
+     .hasSalaryDetail = false, .collectsTax = false, .partyWord = "Deductee",
+     .partyMaster = "frmDeducteeMaster",
+     .challanItems = {701, 702, 703, 704, 705, 706, 707, 708, 409, 710, 711, 712, 712},
+     .annexureKey = "DeducteeID", .partyNameColumn = "DeducteeName", .salaryLayout = false,
+     .grossingUpColumn = "GrossingUpIndicator", .messageName = "Form 27"},
+    {.kind = FormKind::Form27EQ, .formType = "27EQ", .reportForm = "Form27E",
+     .screenName = "frmForm27E", .basicInfoTable = "TranBasicInfoE27E",
+     .challanTable = "TranChallanE27E", .annexureTable = "TranDeducteeE27E",
+     .sectionTable = "mstCollectionCode", .sectionColumn = "CollectionCode",
+     .fileType = "TC1", .hasSalaryDetail = false, .collectsTax = true,
+     .partyWord = "Deductee", .partyMaster = "frmDeducteeMaster",
+     .challanItems = {651, 652, 653, 654, 655, 656, 657, 658, 659, 660, 661, 662, 662},
+     .annexureKey = "DeducteeID", .partyNameColumn = "DeducteeName", .salaryLayout = false,
+     .purchaseColumn = "TotvalPur", .messageName = "Form 27E"},
 }};
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTimer>
 
 namespace keyfilters {
 
@@ -144,6 +145,25 @@ void selectAllText(QLineEdit *edit)
 {
     edit->selectAll();
     fieldchecks::focusIfPossible(edit);
+}
+
+void selectOnEntry(QLineEdit *edit)
+{
+    class SelectOnEntry : public QObject
+    {
+    public:
+        using QObject::QObject;
+        bool eventFilter(QObject *watched, QEvent *event) override
+        {
+            if (event->type() == QEvent::FocusIn) {
+                // After the mouse press has placed the caret, not before.
+                auto *edit = static_cast<QLineEdit *>(watched);
+                QTimer::singleShot(0, edit, [edit] { edit->selectAll(); });
+            }
+            return false;
+        }
+    };
+    edit->installEventFilter(new SelectOnEntry(edit));
 }
 
 } // namespace keyfilters

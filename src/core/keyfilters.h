@@ -29,4 +29,8 @@ QObject *installNumeric(QLineEdit *edit, MessageBoxes &boxes, bool noMinus = fal
 // Selects the whole text, so that typing replaces it, and takes the focus when the field can.
 void selectAllText(QLineEdit *edit);
 
+// Selects the whole text whenever the field is entered, by the mouse too, so that typing
+// replaces a count or an amount instead of adding to it.
+void selectOnEntry(QLineEdit *edit);
+
 } // namespace keyfilters

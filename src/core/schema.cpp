@@ -167,6 +167,15 @@ const TableDefinition &definitionOf(const QString &table)
     throw std::logic_error("unknown table in the table definitions");
 }
 
+Column columnOf(const QString &table, const QString &column)
+{
+    for (const Column &candidate : columnsOf(definitionOf(table))) {
+        if (candidate.name.compare(column, Qt::CaseInsensitive) == 0)
+            return candidate;
+    }
+    throw std::logic_error("unknown column in the table definitions");
+}
+
 QString quoted(const QString &name)
 {
     return u'"' + name + u'"';
@@ -224,11 +233,13 @@ void createAll(const DataStore &store, Layout layout)
 
 QString columnDefinition(const QString &table, const QString &column)
 {
-    for (const Column &candidate : columnsOf(definitionOf(table))) {
-        if (candidate.name.compare(column, Qt::CaseInsensitive) == 0)
-            return quoted(candidate.name) + u' ' + candidate.declaration;
-    }
-    throw std::logic_error("unknown column in the table definitions");
+    const Column found = columnOf(table, column);
+    return quoted(found.name) + u' ' + found.declaration;
+}
+
+bool isWholeNumber(const QString &table, const QString &column)
+{
+    return columnOf(table, column).declaration.startsWith(u"INTEGER");
 }
 
 } // namespace schema

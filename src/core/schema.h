@@ -31,4 +31,8 @@ void createAll(const DataStore &store, Layout layout);
 /// COLLATE NOCASE").
 QString columnDefinition(const QString &table, const QString &column);
 
+/// Whether a column holds whole numbers only, so that an amount written to it loses its paise
+/// as the store has always rounded them (half to even).
+bool isWholeNumber(const QString &table, const QString &column);
+
 } // namespace schema

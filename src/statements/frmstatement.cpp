@@ -1,0 +1,261 @@
+#include "statements/frmstatement.h"
+
+#include "core/formtraits.h"
+#include "core/messageboxes.h"
+#include "core/screenroutines.h"
+#include "core/session.h"
+#include "statements/basicinfopanel.h"
+#include "statements/challanpanel.h"
+
+#include <QCloseEvent>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+using Panel = StatementSheet::Panel;
+
+const QString chosenColour = QStringLiteral("background-color: #CFEBF8;");
+const QString otherColour = QStringLiteral("background-color: #D7E0E1;");
+
+int indexOf(Panel panel)
+{
+    return static_cast<int>(panel) - 1;
+}
+
+} // namespace
+
+FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxes &boxes,
+                           QWidget *parent)
+    : QWidget(parent),
+      m_sheet(session, boxes, form),
+      m_challans(m_sheet),
+      m_boxes(boxes),
+      m_basicInfo(new BasicInfoPanel(m_sheet, boxes, this)),
+      m_challan(new ChallanPanel(m_sheet, m_challans, boxes, this)),
+      m_panels(new QStackedWidget(this)),
+      m_annexure(new QWidget(this)),
+      m_salary(new QWidget(this)),
+      m_formCaption(new QLabel(QStringLiteral("     Form ") + form.formType, this)),
+      m_companyName(new QLabel(this)),
+      m_headCaption(new QLabel(this))
+{
+    setObjectName(form.screenName);
+    setWindowTitle(QStringLiteral("Form ") + form.formType);
+    m_annexure->setObjectName(QStringLiteral("pctDedt"));
+    m_salary->setObjectName(QStringLiteral("pctEmp"));
+    m_formCaption->setObjectName(QStringLiteral("lblFormCaption"));
+    m_companyName->setObjectName(QStringLiteral("lblCompanyName"));
+    m_headCaption->setObjectName(QStringLiteral("lblHeadeCaption"));
+    QFont big = m_formCaption->font();
+    big.setPointSizeF(big.pointSizeF() * 1.4);
+    big.setBold(true);
+    m_formCaption->setFont(big);
+    m_companyName->setFont(big);
+
+    m_panels->addWidget(m_basicInfo);
+    m_panels->addWidget(m_challan);
+    m_panels->addWidget(m_annexure);
+    m_panels->addWidget(m_salary);
+    buildButtons();
+    layOut();
+
+    connect(m_basicInfo, &BasicInfoPanel::challansAsked, this, [this] {
+        if (m_panelButtons[indexOf(Panel::Challan)]->isEnabled())
+            m_panelButtons[indexOf(Panel::Challan)]->click();
+    });
+    connect(m_challan, &ChallanPanel::annexureAsked, this, [this] {
+        if (m_panelButtons[indexOf(Panel::Annexure)]->isEnabled())
+            m_panelButtons[indexOf(Panel::Annexure)]->click();
+    });
+}
+
+void FrmStatement::buildButtons()
+{
+    const FormTraits &form = m_sheet.form();
+    const QString party = form.hasSalaryDetail ? QStringLiteral("Em&ployee Detail")
+                                               : QStringLiteral("D&eductee Detail");
+    const QStringList names = {"cmdBasicInfo", "cmdChallan", "cmdDeducteeDetails",
+                               "cmdEmplyeeDetails"};
+    const QStringList captions = {"&Basic Information", "C&hallan", party, "S&alary Detail"};
+    for (int index = 0; index < 4; ++index) {
+        m_panelButtons[index] = screenroutines::commandButton(captions.at(index),
+                                                              names.at(index), this);
+        const auto panel = static_cast<Panel>(index + 1);
+        connect(m_panelButtons[index], &QPushButton::clicked, this,
+                [this, panel] { showPanel(panel); });
+    }
+    m_panelButtons[indexOf(Panel::Salary)]->setVisible(form.hasSalaryDetail);
+    m_makeFile = screenroutines::commandButton(QStringLiteral("&Generate File"),
+                                               QStringLiteral("CmdMakeFile"), this);
+    connect(m_makeFile, &QPushButton::clicked, this,
+            [this] { notAvailable(QStringLiteral("Generating the file from this screen")); });
+
+    const QString master = form.hasSalaryDetail ? QStringLiteral("&Employee Master")
+                                                : QStringLiteral("D&eductee Master");
+    const QStringList commands = {"&Add", "&Save Form", master, "&Delete", "Cl&ose"};
+    for (int index = 0; index < 5; ++index) {
+        m_cmd[index] = screenroutines::commandButton(
+            commands.at(index), QStringLiteral("cmd(%1)").arg(index), this);
+        connect(m_cmd[index], &QPushButton::clicked, this, [this, index] { command(index); });
+    }
+}
+
+void FrmStatement::layOut()
+{
+    auto *head = new QHBoxLayout;
+    head->addWidget(m_formCaption);
+    head->addSpacing(24);
+    head->addWidget(m_companyName, 1);
+
+    auto *panelButtons = new QVBoxLayout;
+    for (QPushButton *button : m_panelButtons)
+        panelButtons->addWidget(button);
+    panelButtons->addSpacing(16);
+    panelButtons->addWidget(m_makeFile);
+    panelButtons->addStretch();
+
+    auto *middle = new QHBoxLayout;
+    middle->addLayout(panelButtons);
+    middle->addWidget(m_panels, 1);
+
+    auto *commands = new QHBoxLayout;
+    commands->addStretch();
+    for (QPushButton *button : m_cmd)
+        commands->addWidget(button);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(head);
+    layout->addWidget(m_headCaption);
+    layout->addLayout(middle, 1);
+    layout->addLayout(commands);
+    resize(1180, 600);
+}
+
+void FrmStatement::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_opened)
+        return;
+    // Only the first activation loads: coming back from another screen reloads nothing.
+    m_opened = true;
+    m_sheet.open();
+    m_basicInfo->showInfo();
+    showAll();
+}
+
+void FrmStatement::closeEvent(QCloseEvent *event)
+{
+    if (!m_noPrompt) {
+        m_basicInfo->readInfo();
+        if (!m_sheet.mayClose()) {
+            event->ignore();
+            showAll();
+            return;
+        }
+    }
+    m_sheet.closed();
+    event->accept();
+}
+
+void FrmStatement::command(int index)
+{
+    m_basicInfo->readInfo();
+    switch (index) {
+    case 0:
+        m_sheet.operation().addRecord();
+        m_challans.list().setRows({});
+        m_basicInfo->showInfo();
+        showPanel(Panel::BasicInfo);
+        return;
+    case 1:
+        m_sheet.save();
+        m_basicInfo->showInfo();
+        break;
+    case 2:
+        emit partyMasterAsked(m_sheet.form().partyMaster);
+        return;
+    case 3:
+        if (m_sheet.deleteStatement()) {
+            m_noPrompt = true;
+            screenroutines::closeScreen(this);
+            return;
+        }
+        break;
+    case 4:
+        screenroutines::closeScreen(this);
+        return;
+    }
+    showAll();
+}
+
+void FrmStatement::showPanel(Panel panel)
+{
+    if (panel == Panel::Annexure) {
+        notAvailable(QStringLiteral("The %1 Detail panel").arg(m_sheet.form().partyWord));
+        return;
+    }
+    if (panel == Panel::Salary) {
+        notAvailable(QStringLiteral("The Salary Detail panel"));
+        return;
+    }
+    m_basicInfo->readInfo();
+    m_sheet.showPanel(panel);
+    // The panel shows before it opens, so that its first field can take the focus.
+    m_panels->setCurrentIndex(indexOf(m_sheet.panel()));
+    if (panel == Panel::Challan)
+        m_challan->open();
+    else
+        m_basicInfo->showInfo();
+    showAll();
+}
+
+void FrmStatement::showAll()
+{
+    const BasicInfo &info = m_sheet.info();
+    m_companyName->setText(info.compName + QStringLiteral(" [") + info.asstYear
+                           + QStringLiteral("]"));
+    for (int index = 0; index < 4; ++index) {
+        const auto panel = static_cast<Panel>(index + 1);
+        m_panelButtons[index]->setEnabled(m_sheet.panelEnabled(panel));
+        m_panelButtons[index]->setStyleSheet(m_sheet.panel() == panel ? chosenColour
+                                                                      : otherColour);
+    }
+    m_cmd[3]->setEnabled(m_sheet.deleteEnabled());
+    m_panels->setCurrentIndex(indexOf(m_sheet.panel()));
+    const QString form = m_sheet.form().formType;
+    switch (m_sheet.panel()) {
+    case Panel::Challan:
+        m_headCaption->setText(
+            QStringLiteral("CHALLAN DETAIL RECORD FOR TDS ANNUAL RETURN [FORM - %1]").arg(form));
+        break;
+    case Panel::Annexure:
+        m_headCaption->setText(QStringLiteral("%1 DETAIL RECORD FOR TDS ANNUAL RETURN [FORM - %2]")
+                                   .arg(m_sheet.form().partyWord.toUpper(), form));
+        break;
+    default:
+        m_headCaption->clear();
+        break;
+    }
+    showFocus();
+}
+
+void FrmStatement::showFocus()
+{
+    const QString focus = m_sheet.takeFocus();
+    if (focus.isEmpty())
+        return;
+    if (auto *field = findChild<QWidget *>(focus))
+        field->setFocus(Qt::OtherFocusReason);
+}
+
+void FrmStatement::notAvailable(const QString &what)
+{
+    m_boxes.show({QStringLiteral("%1 is not available yet in this version of Kelvora.").arg(what),
+                  appTitle, MessageIcon::Information});
+}
