@@ -10,6 +10,7 @@
 #include "core/storeupgrade.h"
 #include "core/transaction.h"
 #include "masters/deducteemaster.h"
+#include "benchdata.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -19,6 +20,9 @@
 #include <algorithm>
 #include <functional>
 #include <vector>
+
+using benchdata::figures;
+using benchdata::timed;
 
 namespace {
 
@@ -75,23 +79,6 @@ void fill(const DataStore &store)
                     QStringLiteral("AAAPA2345A")});
     }
     transaction.commit();
-}
-
-// The best and the middle of the rounds, in milliseconds.
-QString figures(std::vector<double> times)
-{
-    std::sort(times.begin(), times.end());
-    return QStringLiteral("best %1 ms, median %2 ms")
-        .arg(times.front(), 0, 'f', 2)
-        .arg(times[times.size() / 2], 0, 'f', 2);
-}
-
-double timed(const std::function<void()> &step)
-{
-    QElapsedTimer timer;
-    timer.start();
-    step();
-    return timer.nsecsElapsed() / 1e6;
 }
 
 int rowOf(const DeducteeMaster &master, int id)

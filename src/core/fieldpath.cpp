@@ -16,11 +16,20 @@ FieldPath::FieldPath(QWidget *screen) : QObject(screen), m_screen(screen)
 void FieldPath::setOrder(const QList<QWidget *> &fields)
 {
     m_order = fields;
+    const auto watch = [this](QObject *watched, QWidget *field) {
+        m_watched.insert(watched, field);
+        watched->installEventFilter(this);
+        // Widgets go one by one as the screen closes; none may be looked at after it went.
+        connect(watched, &QObject::destroyed, this, [this](QObject *gone) {
+            m_watched.remove(gone);
+            m_order.removeAll(gone);
+        });
+    };
     for (QWidget *field : fields) {
-        field->installEventFilter(this);
+        watch(field, field);
         // An editable combo types into its own line edit, which sees the keys first.
         if (auto *combo = qobject_cast<QComboBox *>(field); combo && combo->lineEdit())
-            combo->lineEdit()->installEventFilter(this);
+            watch(combo->lineEdit(), field);
     }
 }
 
@@ -77,13 +86,7 @@ bool FieldPath::eventFilter(QObject *watched, QEvent *event)
 
 QWidget *FieldPath::fieldOf(QObject *watched) const
 {
-    for (QWidget *field : m_order) {
-        if (watched == field)
-            return field;
-        if (auto *combo = qobject_cast<QComboBox *>(field); combo && watched == combo->lineEdit())
-            return field;
-    }
-    return nullptr;
+    return m_watched.value(watched);
 }
 
 bool FieldPath::leave(QWidget *field)

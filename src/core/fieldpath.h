@@ -49,6 +49,7 @@ private:
 
     QWidget *m_screen;
     QList<QWidget *> m_order;
+    QHash<QObject *, QWidget *> m_watched; ///< the fields, and the line edits of their combos
     LeaveCheck m_check;
     QHash<QWidget *, std::function<QWidget *()>> m_jumps;
     QHash<QWidget *, std::function<void()>> m_actions;

@@ -1,0 +1,89 @@
+#include "statementfixture.h"
+#include "statements/frmstatement.h"
+#include "statements/statementsheet.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QtTest>
+
+namespace {
+
+template<typename T = QWidget>
+T *child(QWidget &screen, const QString &name)
+{
+    T *found = screen.findChild<T *>(name);
+    if (!found)
+        qFatal("no %s on the screen", qPrintable(name));
+    return found;
+}
+
+void typeAndEnter(QWidget &screen, const QString &text)
+{
+    QWidget *focus = QApplication::focusWidget();
+    QVERIFY2(focus && screen.isAncestorOf(focus), "the focus left the screen");
+    QTest::keyClicks(focus, text);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+}
+
+} // namespace
+
+class TestFrmStatement : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void challanEnteredFromTheKeyboard();
+    void closeQuestion();
+};
+
+void TestFrmStatement::challanEnteredFromTheKeyboard()
+{
+    StatementFixture f(FormKind::Form26Q);
+    FrmStatement screen(f.form, f.session, f.boxes);
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    auto *challans = child<QPushButton>(screen, "cmdChallan");
+    QVERIFY(!challans->isEnabled());
+
+    child<QPushButton>(screen, "cmd(1)")->click();
+    QCOMPARE(f.boxes.texts().last(), StatementSheet::savedText);
+    QVERIFY(challans->isEnabled());
+    challans->click();
+
+    // Section, date, bank code, challan number, cheque, then the amounts down to the remarks,
+    // whose Enter saves.
+    for (const char *text : {"94C", "", "0510001", "11", "", "1000.5", "10", "", "", "", "",
+                             "", "PAID"})
+        typeAndEnter(screen, text);
+    auto *list = child<QTableView>(screen, "lstvChallan");
+    QCOMPARE(list->model()->rowCount(), 1);
+    QCOMPARE(f.data.text("SELECT Total || '/' || BankCode || '/' || Remarks FROM "
+                         + f.form.challanTable),
+             "1010.5/0510001/PAID");
+    QCOMPARE(child<QLineEdit>(screen, "txtCh(115)")->text(), "2");
+    QCOMPARE(QApplication::focusWidget(), child(screen, "cmb116"));
+
+    list->setFocus();
+    list->setCurrentIndex(list->model()->index(0, 0));
+    f.boxes.answerNext(Answer::Yes);
+    QTest::keyClick(list, Qt::Key_Delete);
+    QCOMPARE(list->model()->rowCount(), 0);
+}
+
+void TestFrmStatement::closeQuestion()
+{
+    StatementFixture f(FormKind::Form24Q);
+    f.session.curBasicInfoId = 0;
+    FrmStatement screen(f.form, f.session, f.boxes);
+    screen.show();
+    f.boxes.answerNext(Answer::Cancel);
+    QVERIFY(!screen.close());
+    QCOMPARE(f.boxes.shown.last().buttons, MessageButtons::YesNoCancel);
+    f.boxes.answerNext(Answer::Yes);
+    QVERIFY(screen.close());
+    QCOMPARE(f.data.count(f.form.basicInfoTable), 1);
+}
+
+QTEST_MAIN(TestFrmStatement)
+#include "test_frmstatement.moc"
