@@ -155,6 +155,16 @@ void addColumns(const DataStore &store)
 
 } // namespace
 
+std::optional<QVariant> addedColumnValue(const QString &table, const QString &column)
+{
+    for (const AddedColumn &added : addedColumns) {
+        if (table.compare(QLatin1String(added.table), Qt::CaseInsensitive) == 0
+            && column.compare(QLatin1String(added.column), Qt::CaseInsensitive) == 0)
+            return added.fillExistingWithZero ? QVariant(0) : QVariant();
+    }
+    return std::nullopt;
+}
+
 void run(const DataStore &store)
 {
     seedChapterViaSections(store);

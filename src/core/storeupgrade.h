@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QString>
+#include <QVariant>
+#include <optional>
+
 class DataStore;
 
 /// Brings a data store of any earlier layout up to the current one. Every step checks before it
@@ -13,5 +17,9 @@ constexpr int currentVersion = 2;
 
 /// The seed of the two CHAPVIAU sections, then the upgrade steps, in the order of every start.
 void run(const DataStore &store);
+
+/// For a column that the upgrade adds to a table of the older layout: the value it gives the
+/// rows that were already there (0 or Null). Nothing for any other column.
+std::optional<QVariant> addedColumnValue(const QString &table, const QString &column);
 
 } // namespace storeupgrade
