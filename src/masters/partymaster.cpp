@@ -1,9 +1,6 @@
 #include "masters/partymaster.h"
 
-#include "core/cannedmessages.h"
-#include "core/companyselection.h"
 #include "core/datastore.h"
-#include "core/fieldrules.h"
 #include "core/records.h"
 #include "core/session.h"
 #include "core/storeerror.h"
@@ -17,260 +14,11 @@ bool isDuplicateKey(const StoreError &error)
     return error.code() == QLatin1String("2067") || error.code() == QLatin1String("1555");
 }
 
-// BeforePrint has always asked for a sixth canned box, which shows nothing.
-constexpr int printCheckKind = 6;
-
 } // namespace
 
 PartyMaster::PartyMaster(Session &session, MessageBoxes &boxes, Traits traits)
-    : m_session(session),
-      m_boxes(boxes),
-      m_traits(std::move(traits)),
-      m_operation(this),
-      m_list(m_traits.listHeaders)
+    : PartyRecordFlow(session, boxes, std::move(traits))
 {
-}
-
-bool PartyMaster::isPanPlaceholder(const QString &pan)
-{
-    return pan == panNotAvailable || pan == panInvalid || pan == panApplied;
-}
-
-bool PartyMaster::isPanNotAvailable(const QString &pan)
-{
-    const QString text = pan.trimmed();
-    return text.isEmpty() || text == panApplied || text == panNotAvailable;
-}
-
-QString PartyMaster::storedPan(const QString &pan)
-{
-    const QString text = records::escapeText(pan);
-    return text.isEmpty() ? panNotAvailable : text;
-}
-
-QString PartyMaster::panAfterLeaving(const QString &pan)
-{
-    return isPanNotAvailable(pan) ? panNotAvailable : pan;
-}
-
-std::optional<FieldFailure> PartyMaster::checkPan(const QString &pan)
-{
-    if (isPanPlaceholder(pan) || fieldrules::isValidPan(pan))
-        return std::nullopt;
-    return FieldFailure{{badPanText, appTitle, MessageIcon::Critical, MessageButtons::Ok},
-                        panField};
-}
-
-QString PartyMaster::takeFocus()
-{
-    QString field;
-    field.swap(m_focus);
-    return field;
-}
-
-bool PartyMaster::guarded(const std::function<void()> &step)
-{
-    try {
-        step();
-        return true;
-    } catch (const StoreError &error) {
-        m_boxes.show({error.description(), appTitle, MessageIcon::Critical, MessageButtons::Ok});
-        return false;
-    }
-}
-
-void PartyMaster::load()
-{
-    guarded([this] {
-        m_groups.clear();
-        QSqlQuery query = m_session.store.exec(
-            QStringLiteral("SELECT GroupName, GroupID FROM mstGroup ORDER BY GroupID"));
-        while (query.next())
-            m_groups.append({query.value(1).toInt(), records::nullToText(query.value(0))});
-    });
-    clearFields();
-    fields().groupName = m_groups.isEmpty() ? QString() : m_groups.first().name;
-    groupChanged();
-    m_bar = Bar::Browse;
-    m_listEnabled = true;
-    m_groupEnabled = true;
-    commandTail();
-}
-
-void PartyMaster::groupChanged()
-{
-    PartyFields &values = fields();
-    values.groupId = 0;
-    for (const Group &group : std::as_const(m_groups)) {
-        if (group.name == values.groupName)
-            values.groupId = group.id;
-    }
-    guarded([this] { reloadList(); });
-}
-
-void PartyMaster::reloadList()
-{
-    m_selectedRow = -1;
-    if (fields().groupId == 0) {
-        m_list.clear();
-        return;
-    }
-    m_list.load(m_session.store, m_traits.listStatement, {fields().groupId});
-    if (m_list.rowCount() > 0)
-        m_selectedRow = 0;
-}
-
-void PartyMaster::clearFields()
-{
-    PartyFields &values = fields();
-    values.id = 0;
-    values.name.clear();
-    values.pan.clear();
-    values.panRef.clear();
-    clearOwnFields();
-}
-
-void PartyMaster::command(int index)
-{
-    if (fields().groupName.trimmed().isEmpty()) {
-        m_boxes.show({CompanySelection::noGroupText, appTitle, MessageIcon::Information,
-                      MessageButtons::Ok});
-        requestFocus(groupField);
-        return;
-    }
-    guarded([this, index] {
-        switch (index) {
-        case 0:
-            readDefaults();
-            m_operation.addRecord();
-            m_bar = Bar::Editing;
-            break;
-        case 1:
-            loadRow(m_selectedRow);
-            break;
-        case 2:
-            m_operation.saveRecord();
-            break;
-        case 3:
-            m_operation.userCanceled();
-            clearFields();
-            m_bar = Bar::Browse;
-            break;
-        case 4:
-            m_operation.deleteRecord();
-            break;
-        default:
-            break;
-        }
-    });
-    fields().pan = panNotAvailable;
-    m_panRefEnabled = true;
-    commandTail();
-}
-
-void PartyMaster::loadRow(int row)
-{
-    if (row < 0 || row >= m_list.rowCount())
-        return;
-    const int id = m_list.text(row, m_traits.listIdColumn).toInt();
-    PartyFields &values = fields();
-    if (!guarded([this, id] { loadOwnFields(id); }))
-        return;
-    values.id = id;
-    values.name = m_list.text(row, m_traits.listNameColumn);
-    values.pan = m_list.text(row, m_traits.listPanColumn);
-    m_panRefEnabled = isPanNotAvailable(values.pan);
-    m_listEnabled = false;
-    m_groupEnabled = false;
-    m_operation.modifyRecord();
-    m_bar = Bar::Editing;
-    requestFocus(m_traits.nameField);
-}
-
-void PartyMaster::deleteKey()
-{
-    guarded([this] { m_operation.deleteRecord(); });
-    if (!m_operation.actionCancelled())
-        m_bar = Bar::AllEnabled;
-}
-
-void PartyMaster::panLeft()
-{
-    fields().pan = panAfterLeaving(fields().pan);
-    m_panRefEnabled = isPanNotAvailable(fields().pan);
-}
-
-void PartyMaster::beforeAdd(bool & /*cancel*/)
-{
-    clearFields();
-    fields().id = static_cast<int>(
-        records::nextId(m_session.store, m_traits.table, m_traits.idColumn));
-    m_listEnabled = false;
-    requestFocus(m_traits.nameField);
-}
-
-void PartyMaster::afterCancel()
-{
-    m_bar = Bar::Browse;
-    m_listEnabled = true;
-    m_groupEnabled = true;
-    requestFocus(listField);
-}
-
-void PartyMaster::beforeDelete(bool &cancel)
-{
-    if (cannedmessages::showMessage(m_boxes, cannedmessages::ConfirmDelete)
-        != static_cast<int>(Answer::Yes)) {
-        cancel = true;
-        requestFocus(listField);
-    }
-}
-
-void PartyMaster::deleteRecord(bool &cancel)
-{
-    if (m_selectedRow < 0 || m_selectedRow >= m_list.rowCount()) {
-        // No row to take the id from: the delete fails as any other failure of it does.
-        m_boxes.show({unableToDeleteText, appTitle, MessageIcon::Critical, MessageButtons::Ok});
-        cancel = true;
-        return;
-    }
-    try {
-        const int id = m_list.text(m_selectedRow, m_traits.listIdColumn).toInt();
-        for (const FormKind kind : std::as_const(m_traits.forms)) {
-            if (m_session.store.hasRows(QStringLiteral("SELECT 1 FROM %1 WHERE %2 = ?")
-                                            .arg(formTraits(kind).annexureTable,
-                                                 m_traits.numberColumn),
-                                        {id})) {
-                m_boxes.show({QStringLiteral("Cannot delete the %1. Entry of the %1 exists in %2")
-                                  .arg(m_traits.word, formTraits(kind).messageName),
-                              appTitle, MessageIcon::Information, MessageButtons::Ok});
-                cancel = true;
-                requestFocus(listField);
-                return;
-            }
-        }
-        m_session.store.exec(
-            QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(m_traits.table, m_traits.idColumn),
-            {id});
-        m_boxes.show({deletedText, appTitle, MessageIcon::Information, MessageButtons::Ok});
-        reloadList();
-        requestFocus(listField);
-    } catch (const StoreError &) {
-        m_boxes.show({unableToDeleteText, appTitle, MessageIcon::Critical, MessageButtons::Ok});
-        cancel = true;
-    }
-}
-
-void PartyMaster::beforePrint(bool &cancel)
-{
-    // Both masters have always asked about deductees here; nothing prints from these screens.
-    if (cannedmessages::showMessage(m_boxes, printCheckKind) == static_cast<int>(Answer::No))
-        cancel = true;
-    if (!m_session.store.hasRows(QStringLiteral("SELECT DeducteeID, DeducteeName FROM mstDeductee "
-                                                "ORDER BY DeducteeName"))) {
-        m_boxes.show({noDataText, noDataTitle, MessageIcon::Critical, MessageButtons::Ok});
-        cancel = true;
-    }
 }
 
 std::optional<FieldFailure> PartyMaster::firstFailure() const
@@ -279,20 +27,20 @@ std::optional<FieldFailure> PartyMaster::firstFailure() const
     if (values.groupName.trimmed().isEmpty())
         return FieldFailure{{noGroupSaveText}, groupField};
     if (values.name.trimmed().isEmpty())
-        return FieldFailure{{m_traits.blankNameText}, m_traits.nameField};
+        return FieldFailure{{traits().blankNameText}, traits().nameField};
     if (auto failure = checkPan(values.pan))
         return failure;
     if (auto failure = checkOwnFields())
         return failure;
     const int current = mode();
-    if (!m_traits.nameCheckInEditModesOnly || current == ClsOperation::AddMode
+    if (!traits().nameCheckInEditModesOnly || current == ClsOperation::AddMode
         || current == ClsOperation::ModifyMode) {
-        if (m_session.store.hasRows(
+        if (session().store.hasRows(
                 QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ? AND %1 <> ? AND GroupId = ?")
-                    .arg(m_traits.idColumn, m_traits.table, m_traits.nameColumn),
+                    .arg(traits().idColumn, traits().table, traits().nameColumn),
                 {records::escapeText(values.name), values.id, values.groupId}))
-            return FieldFailure{{QStringLiteral("%1 Name Already Exists. ").arg(m_traits.word)},
-                                m_traits.nameField};
+            return FieldFailure{{QStringLiteral("%1 Name Already Exists. ").arg(traits().word)},
+                                traits().nameField};
     }
     return std::nullopt;
 }
@@ -303,28 +51,28 @@ QList<PartyMaster::Question> PartyMaster::questions() const
     QList<Question> asked;
     const bool editing = mode() == ClsOperation::ModifyMode;
     if (editing) {
-        for (const FormKind kind : std::as_const(m_traits.forms)) {
-            if (m_session.store.hasRows(QStringLiteral("SELECT 1 FROM %1 WHERE %2 = ?")
+        for (const FormKind kind : std::as_const(traits().forms)) {
+            if (session().store.hasRows(QStringLiteral("SELECT 1 FROM %1 WHERE %2 = ?")
                                             .arg(formTraits(kind).annexureTable,
-                                                 m_traits.numberColumn),
+                                                 traits().numberColumn),
                                         {values.id}))
                 asked.append({{QStringLiteral("Entry of the %1 exists in %2 like to update.")
-                                   .arg(m_traits.word, formTraits(kind).messageName),
+                                   .arg(traits().word, formTraits(kind).messageName),
                                appTitle, MessageIcon::Question, MessageButtons::YesNo},
-                              m_traits.nameField});
+                              traits().nameField});
         }
     }
     // A party without a PAN is asked about too: "PANNOTAVBL" is compared like any PAN.
     const QString pan = records::escapeText(values.pan);
     if (!pan.isEmpty() && pan != panApplied) {
         QString sql = QStringLiteral("SELECT %1 FROM %2 WHERE PAN = ? AND GroupId = ?")
-                          .arg(m_traits.idColumn, m_traits.table);
+                          .arg(traits().idColumn, traits().table);
         QVariantList bound{pan, values.groupId};
         if (editing) {
-            sql += QStringLiteral(" AND %1 <> ?").arg(m_traits.idColumn);
+            sql += QStringLiteral(" AND %1 <> ?").arg(traits().idColumn);
             bound << values.id;
         }
-        if (m_session.store.hasRows(sql, bound))
+        if (session().store.hasRows(sql, bound))
             asked.append({{duplicatePanText, appTitle, MessageIcon::Question,
                            MessageButtons::YesNo},
                           panField});
@@ -334,10 +82,10 @@ QList<PartyMaster::Question> PartyMaster::questions() const
 
 bool PartyMaster::hasStatementRows() const
 {
-    for (const FormKind kind : std::as_const(m_traits.forms)) {
-        if (m_session.store.hasRows(QStringLiteral("SELECT 1 FROM %1 WHERE %2 = ?")
+    for (const FormKind kind : std::as_const(traits().forms)) {
+        if (session().store.hasRows(QStringLiteral("SELECT 1 FROM %1 WHERE %2 = ?")
                                         .arg(formTraits(kind).annexureTable,
-                                             m_traits.numberColumn),
+                                             traits().numberColumn),
                                     {fields().id}))
             return true;
     }
@@ -347,13 +95,13 @@ bool PartyMaster::hasStatementRows() const
 void PartyMaster::validateData(bool &cancel)
 {
     if (const std::optional<FieldFailure> failure = firstFailure()) {
-        m_boxes.show(failure->message);
+        boxes().show(failure->message);
         requestFocus(failure->field);
         cancel = true;
         return;
     }
     for (const Question &question : questions()) {
-        if (m_boxes.show(question.message) != Answer::Yes) {
+        if (boxes().show(question.message) != Answer::Yes) {
             requestFocus(question.field);
             cancel = true;
             return;
@@ -368,10 +116,10 @@ void PartyMaster::saveProcedure(bool &cancel)
     const int current = mode();
     const int shownId = values.id;
     try {
-        Transaction transaction(m_session.store);
+        Transaction transaction(session().store);
         if (current == ClsOperation::AddMode) {
             values.id = static_cast<int>(
-                records::nextId(m_session.store, m_traits.table, m_traits.idColumn));
+                records::nextId(session().store, traits().table, traits().idColumn));
             insertRecord();
         } else if (current == ClsOperation::ModifyMode) {
             updateRecord();
@@ -385,24 +133,17 @@ void PartyMaster::saveProcedure(bool &cancel)
         cancel = true;
         return;
     }
-    m_listEnabled = true;
-    clearFields();
-    m_bar = Bar::Browse;
-    m_groupEnabled = true;
-    requestFocus(listField);
-    values.id = static_cast<int>(
-        records::nextId(m_session.store, m_traits.table, m_traits.idColumn));
-    reloadList();
+    showSaved();
 }
 
 void PartyMaster::showSaveError(const StoreError &error)
 {
-    m_boxes.show({error.description(), appTitle, MessageIcon::Critical, MessageButtons::Ok});
+    boxes().show({error.description(), appTitle, MessageIcon::Critical, MessageButtons::Ok});
     if (isDuplicateKey(error)) {
-        m_boxes.show({duplicateKeyText, duplicateKeyTitle, MessageIcon::Information,
+        boxes().show({duplicateKeyText, duplicateKeyTitle, MessageIcon::Information,
                       MessageButtons::Ok});
-        requestFocus(m_traits.nameField);
+        requestFocus(traits().nameField);
     } else {
-        m_boxes.show({unableToSaveText, appTitle, MessageIcon::Critical, MessageButtons::Ok});
+        boxes().show({unableToSaveText, appTitle, MessageIcon::Critical, MessageButtons::Ok});
     }
 }
