@@ -7,11 +7,9 @@
 #include "core/screenroutines.h"
 #include "masters/partymaster.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -37,29 +35,6 @@ public:
 private:
     int m_max;
 };
-
-bool isEnter(const QKeyEvent *event)
-{
-    return (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-           && !(event->modifiers() & (Qt::AltModifier | Qt::ControlModifier));
-}
-
-// Focus that leaves a field for a box or a popup is not the user leaving it.
-bool isLeaving(const QFocusEvent *event)
-{
-    return event->reason() != Qt::ActiveWindowFocusReason
-           && event->reason() != Qt::PopupFocusReason
-           && event->reason() != Qt::MenuBarFocusReason;
-}
-
-QLineEdit *lineEditOf(QWidget *field)
-{
-    if (auto *edit = qobject_cast<QLineEdit *>(field))
-        return edit;
-    if (auto *combo = qobject_cast<QComboBox *>(field))
-        return combo->lineEdit();
-    return nullptr;
-}
 
 } // namespace
 
@@ -152,14 +127,14 @@ void PartyMasterForm::finishSetUp(const QString &idCaption, const QString &nameC
     layout->addWidget(listLabel);
     layout->addWidget(m_list, 1);
 
-    m_fieldOrder = {m_group, m_name, m_pan, m_panRef};
-    m_fieldOrder << ownOrder;
-    for (QWidget *field : std::as_const(m_fieldOrder)) {
-        field->installEventFilter(this);
-        if (auto *combo = qobject_cast<QComboBox *>(field); combo && combo->lineEdit())
-            combo->lineEdit()->installEventFilter(this);
-    }
-    m_list->installEventFilter(this);
+    QList<QWidget *> fieldOrder{m_group, m_name, m_pan, m_panRef};
+    fieldOrder << ownOrder;
+    m_keyboard = std::make_unique<PartyFormKeyboard>(
+        this,
+        PartyFormKeyboard::Controls{fieldOrder, m_pan, m_list,
+                                    m_bar->button(MasterButtonBar::Save)},
+        PartyFormKeyboard::Actions{[this](QWidget *field) { return leaveField(field); },
+                                   [this] { loadListRow(); }, [this] { listDeleteKey(); }});
 
     m_list->setModel(&m_master.list());
     connect(&m_master.list(), &QAbstractItemModel::modelReset, this,
@@ -216,13 +191,11 @@ void PartyMasterForm::showEvent(QShowEvent *event)
 void PartyMasterForm::runCommand(int index)
 {
     // The press that took the focus from a refused field is not a click of the button.
-    if (m_dropClick) {
-        m_dropClick = false;
+    if (m_keyboard->takeDroppedClick())
         return;
-    }
     // A command takes the field being typed in as left, as a click on a button always has;
     // Cancel throws the entry away and needs no check of it.
-    QWidget *focused = fieldOf(focusWidget());
+    QWidget *focused = m_keyboard->fieldOf(focusWidget());
     if (index != MasterButtonBar::Cancel && focused && !leaveField(focused))
         return;
     readFields();
@@ -290,7 +263,7 @@ void PartyMasterForm::showFields()
 
 void PartyMasterForm::showState()
 {
-    m_showing = true;
+    m_keyboard->setShowing(true);
     switch (m_master.bar()) {
     case PartyMaster::Bar::Browse:
         commandbar::setCommandButtons(this, true);
@@ -309,11 +282,11 @@ void PartyMasterForm::showState()
     if (!focus.isEmpty()) {
         if (auto *field = findChild<QWidget *>(focus)) {
             fieldchecks::focusIfPossible(field);
-            if (QLineEdit *edit = lineEditOf(field))
+            if (QLineEdit *edit = PartyFormKeyboard::lineEditOf(field))
                 edit->selectAll();
         }
     }
-    m_showing = false;
+    m_keyboard->setShowing(false);
 }
 
 void PartyMasterForm::selectListRow()
@@ -337,75 +310,6 @@ bool PartyMasterForm::leaveField(QWidget *field)
         accepted = leaveOwnField(field);
     showAll();
     return accepted;
-}
-
-void PartyMasterForm::moveToNextField(QWidget *from)
-{
-    for (qsizetype index = m_fieldOrder.indexOf(from) + 1; index < m_fieldOrder.size(); ++index) {
-        QWidget *next = m_fieldOrder.at(index);
-        if (next->isEnabled() && next->isVisible()) {
-            next->setFocus(Qt::TabFocusReason);
-            if (QLineEdit *edit = lineEditOf(next))
-                edit->selectAll();
-            return;
-        }
-    }
-    // Past the last field the entry is complete: on to Save.
-    if (QWidget *save = m_bar->button(MasterButtonBar::Save); save->isEnabled())
-        save->setFocus(Qt::TabFocusReason);
-}
-
-QWidget *PartyMasterForm::fieldOf(QObject *watched) const
-{
-    for (QWidget *field : m_fieldOrder) {
-        if (watched == field)
-            return field;
-        if (auto *combo = qobject_cast<QComboBox *>(field); combo && watched == combo->lineEdit())
-            return field;
-    }
-    return nullptr;
-}
-
-bool PartyMasterForm::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_list && event->type() == QEvent::KeyPress) {
-        const auto *key = static_cast<QKeyEvent *>(event);
-        if (isEnter(key)) {
-            loadListRow();
-            return true;
-        }
-        if (key->key() == Qt::Key_Delete) {
-            listDeleteKey();
-            return true;
-        }
-        return false;
-    }
-    QWidget *field = fieldOf(watched);
-    if (!field)
-        return QWidget::eventFilter(watched, event);
-    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
-        m_dropClick = false;
-    if (event->type() == QEvent::KeyPress) {
-        const auto *key = static_cast<QKeyEvent *>(event);
-        // Tab out of the PAN goes where Enter goes: to the PAN reference once it is enabled.
-        const bool tabOutOfPan = field == m_pan && key->key() == Qt::Key_Tab
-                                 && key->modifiers() == Qt::NoModifier;
-        if (isEnter(key) || tabOutOfPan) {
-            if (leaveField(field))
-                moveToNextField(field);
-            return true;
-        }
-    } else if (event->type() == QEvent::FocusOut && watched == field && !m_showing) {
-        const auto *focus = static_cast<QFocusEvent *>(event);
-        // Only a move to another control of this screen leaves the field; closing the screen or
-        // turning to another one does not. A refusal takes the focus back, and the mouse press
-        // that took it away then clicks nothing.
-        QWidget *next = QApplication::focusWidget();
-        if (isLeaving(focus) && next && isAncestorOf(next) && !leaveField(field)
-            && focus->reason() == Qt::MouseFocusReason)
-            m_dropClick = true;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void PartyMasterForm::setText(QLineEdit *edit, const QString &text)

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "masters/partyformkeyboard.h"
+
 #include <QList>
 #include <QWidget>
+
+#include <memory>
 
 class MasterButtonBar;
 class MessageBoxes;
@@ -15,8 +19,8 @@ class QTreeView;
 // The screen that the employee and the deductee masters share: group combo, id, name and PAN
 // fields, the list of the group's parties, the cmd bar and the close button. The decisions are
 // PartyMaster's; the screen copies its fields into it before each action and shows the fields
-// and the state that the action left. Enter moves along the fields; every control can be reached
-// from the keyboard.
+// and the state that the action left. Enter moves along the fields (PartyFormKeyboard); every
+// control can be reached from the keyboard.
 class PartyMasterForm : public QWidget
 {
     Q_OBJECT
@@ -54,7 +58,6 @@ protected:
     // Keeps a field of a short code about as wide as the code.
     static void fitWidth(QWidget *field, int characters);
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
     MessageBoxes &m_boxes;
@@ -77,13 +80,11 @@ private:
     void showState();
     void selectListRow();
     bool leaveField(QWidget *field);
-    void moveToNextField(QWidget *from);
-    QWidget *fieldOf(QObject *watched) const;
 
     PartyMaster &m_master;
-    QList<QWidget *> m_fieldOrder;
-    bool m_dropClick = false; // a leave check refused as the mouse took the focus away
-    bool m_showing = false; // focus moved by the screen itself: no leave checks
+    // Made with the list; destroyed before the widgets it watches, so that no check runs
+    // while the screen is torn down.
+    std::unique_ptr<PartyFormKeyboard> m_keyboard;
     bool m_addOnShow = false;
     bool m_shown = false;
 };
