@@ -13,6 +13,12 @@ enum class ChallanItem {
     ChallanNo, VoucherNo, Count
 };
 
+/// The boxes of the annexure panel that carry an item number of the form on their labels; Extra
+/// is 27Q's grossing-up indicator or 27EQ's value of purchase.
+enum class AnnexureItem {
+    Code, Pan, Name, Amount, Date, Rate, Tax, Surcharge, Cess, Total, Deposited, Extra, Count
+};
+
 /**
  * The differences between the four forms, in one table: table names, the names the menu and
  * the selection use, the words and item numbers of the statement screens, and the literals of
@@ -39,6 +45,12 @@ struct FormTraits
     /// The item number on each label of the challan panel, by ChallanItem; 0 for a box the form
     /// lacks (24Q's challans have no section).
     std::array<int, static_cast<int>(ChallanItem::Count)> challanItems;
+    /// The same for the annexure panel, by AnnexureItem; 0 for a box the form lacks (24Q's
+    /// employee rows have no deductee code and no rate).
+    std::array<int, static_cast<int>(AnnexureItem::Count)> annexureItems;
+    /// How an empty amount of an annexure row is written on leaving it and saving: "00.00" on
+    /// 24Q and 26Q, "0.00" on 27Q and 27EQ.
+    QString annexureZero;
 
     // The return file's further differences.
     QString annexureKey;       ///< key of an annexure row: "EmpID" or "DeducteeID"
@@ -59,6 +71,7 @@ struct FormTraits
     /// Whether the challans carry a section (or a collection code): all forms but 24Q.
     bool challanHasSection() const { return challanItems[int(ChallanItem::Section)] != 0; }
     int challanItem(ChallanItem item) const { return challanItems[static_cast<int>(item)]; }
+    int annexureItem(AnnexureItem item) const { return annexureItems[static_cast<int>(item)]; }
     /// The four section tables under a salary row, in the order they are emptied; none but on
     /// 24Q.
     std::array<QString, 4> salarySectionTables() const

@@ -35,7 +35,9 @@ double nextChildId(const DataStore &store, const QString &table, const QString &
 
 QString escapeText(const QString &value)
 {
-    return value.trimmed();
+    // An empty field is stored as an empty text, never as Null.
+    const QString trimmed = value.trimmed();
+    return trimmed.isNull() ? QStringLiteral("") : trimmed;
 }
 
 QString nullToText(const QVariant &value)
@@ -43,6 +45,16 @@ QString nullToText(const QVariant &value)
     if (!value.isValid() || value.isNull())
         return {};
     return value.toString().trimmed();
+}
+
+QVariant storedDate(const QDate &date)
+{
+    return date.isValid() ? QVariant(date.toString(Qt::ISODate)) : QVariant();
+}
+
+QDate dateOf(const QVariant &value)
+{
+    return QDate::fromString(nullToText(value), Qt::ISODate);
 }
 
 QStringList comboTexts(const DataStore &store, const QString &table, const QString &column,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -19,11 +20,18 @@ double nextId(const DataStore &store, const QString &table, const QString &colum
 double nextChildId(const DataStore &store, const QString &table, const QString &column,
                    double basicInfoId, double challanId);
 
-/// A text value as it goes into the store: trimmed. Quotes need no doubling, values are bound.
+/// A text value as it goes into the store: trimmed, and empty rather than Null. Quotes need no
+/// doubling, values are bound.
 QString escapeText(const QString &value);
 
 /// Empty for a Null, otherwise the value's text trimmed.
 QString nullToText(const QVariant &value);
+
+/// A date as the store keeps it: ISO text (so that text order is date order), Null for none.
+QVariant storedDate(const QDate &date);
+
+/// A stored date; an invalid date for a Null or a text that is not one.
+QDate dateOf(const QVariant &value);
 
 /// The rows that fill a combo: the first column of the statement, trimmed, in the order returned.
 /// With an empty statement it is built from the table and the column, sorted when asked.

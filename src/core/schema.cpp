@@ -13,7 +13,8 @@ namespace {
  * Each table as one line of columns "Name:Type". Types: L whole number, D amount (double),
  * T text, T<n> text of at most n characters, Dt date (ISO text), B yes/no stored as 1 or 0.
  * A column written "+Name:Type" is added by the upgrade; "=0" after the type gives it a default
- * of 0. The key column gets a unique index; the columns that join rows an ordinary one.
+ * of 0. The key gets a unique index (an annexure row's is its number within its Statement and
+ * challan); the columns that join rows an ordinary one.
  */
 struct TableDefinition
 {
@@ -74,10 +75,10 @@ const TableDefinition definitions[] = {
     {"TranChallanE26", "ChallnID", CHALLAN_HEAD "Section:T5 " CHALLAN_TAIL("D", "D")},
     {"TranChallanE27", "ChallnID", CHALLAN_HEAD "Section:T5 " CHALLAN_TAIL("D", "L")},
     {"TranChallanE27E", "ChallnID", CHALLAN_HEAD "Section:T5 " CHALLAN_TAIL("D", "L")},
-    {"TranDeducteeE26", "DeducteeID", DEDUCTEE_ROW},
-    {"TranDeducteeE27", "DeducteeID", DEDUCTEE_ROW " GrossingUpIndicator:T1"},
-    {"TranDeducteeE27E", "DeducteeID", DEDUCTEE_ROW " TotvalPur:D"},
-    {"TranEmployeeE24", "EmpID",
+    {"TranDeducteeE26", "BasicIfoID ChallanId DeducteeID", DEDUCTEE_ROW},
+    {"TranDeducteeE27", "BasicIfoID ChallanId DeducteeID", DEDUCTEE_ROW " GrossingUpIndicator:T1"},
+    {"TranDeducteeE27E", "BasicIfoID ChallanId DeducteeID", DEDUCTEE_ROW " TotvalPur:D"},
+    {"TranEmployeeE24", "BasicIfoID ChallanId EmpID",
      "EmpID:L BasicIfoID:L CompID:L AsstID:L ChallanId:L SrlNo:L EmpNo:L PAN:T10 PANRef:T10 "
      "EmpName:T75 Designation:T15 FromDate:Dt ToDate:Dt AmtOfPayment:D PaymentDt:Dt "
      "TaxAmount:D TaxDeductDt:Dt TaxPaidToCGDt:Dt BankBranchCode:T7 BankChallanNo:T9 "
@@ -210,14 +211,29 @@ void createIndexes(const DataStore &store, const QString &table)
 {
     const TableDefinition &definition = definitionOf(table);
     const QString name = QLatin1String(definition.name);
-    const QString key = QLatin1String(definition.key ? definition.key : "");
+    const QStringList key =
+        QString::fromLatin1(definition.key ? definition.key : "").split(u' ', Qt::SkipEmptyParts);
+    if (key.size() > 1) {
+        // An annexure row's number counts within its challan only; a store made before that
+        // was known has the number alone as its unique key, which the rows of a second
+        // challan would break.
+        const QString single = quoted(name + u'_' + key.last());
+        if (store.hasRows(QStringLiteral("SELECT 1 FROM sqlite_master WHERE type = 'index' "
+                                         "AND name = ?"),
+                          {name + u'_' + key.last()}))
+            store.exec(QStringLiteral("DROP INDEX %1").arg(single));
+    }
     if (!key.isEmpty()) {
+        QStringList columns;
+        for (const QString &column : key)
+            columns << quoted(column);
         store.exec(QStringLiteral("CREATE UNIQUE INDEX IF NOT EXISTS %1 ON %2 (%3)")
-                       .arg(quoted(name + u'_' + key), quoted(name), quoted(key)));
+                       .arg(quoted(name + u'_' + key.join(u'_')), quoted(name),
+                            columns.join(u", ")));
     }
     for (const Column &column : columnsOf(definition)) {
         if (!joinColumns.contains(column.name, Qt::CaseInsensitive)
-            || column.name.compare(key, Qt::CaseInsensitive) == 0)
+            || key.contains(column.name, Qt::CaseInsensitive))
             continue;
         store.exec(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)")
                        .arg(quoted(name + u'_' + column.name), quoted(name),

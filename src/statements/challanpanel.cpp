@@ -5,6 +5,7 @@
 #include "core/keyfilters.h"
 #include "core/screenroutines.h"
 #include "statements/challansheet.h"
+#include "statements/rowlistview.h"
 #include "statements/statementsheet.h"
 
 #include <QComboBox>
@@ -12,12 +13,10 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTableView>
 #include <QVBoxLayout>
 
 namespace {
@@ -139,19 +138,10 @@ void ChallanPanel::buildBoxes(MessageBoxes &boxes)
                                            QStringLiteral("cmdSavechallan"), this);
     connect(m_save, &QPushButton::clicked, this, &ChallanPanel::save);
 
-    m_list = new QTableView(this);
-    m_list->setObjectName(QStringLiteral("lstvChallan"));
-    m_list->setModel(&m_challans.list());
-    m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_list->verticalHeader()->setVisible(false);
-    m_list->verticalHeader()->setDefaultSectionSize(m_list->fontMetrics().height() + 6);
+    m_list = new RowListView(QStringLiteral("lstvChallan"), &m_challans.list(), this);
     m_list->setColumnHidden(ChallanListModel::RawDateColumn, true);
     m_list->setColumnHidden(ChallanListModel::IdColumn, true);
     m_list->setColumnHidden(ChallanListModel::SectionColumn, !hasSection);
-    // Columns as wide as their heads; a thousand challans are not measured one by one.
-    m_list->resizeColumnsToContents();
     m_list->installEventFilter(this);
     connect(m_list, &QTableView::clicked, this, [this](const QModelIndex &index) {
         m_challans.loadRow(index.row());

@@ -10,7 +10,7 @@ class QComboBox;
 class QDateEdit;
 class QLineEdit;
 class QPushButton;
-class QTableView;
+class RowListView;
 class StatementSheet;
 
 /**
@@ -57,7 +57,7 @@ private:
     QLineEdit *m_sectionDescription = nullptr;
     QDateEdit *m_date = nullptr;
     QPushButton *m_save = nullptr;
-    QTableView *m_list = nullptr;
+    RowListView *m_list = nullptr;
     FieldPath *m_path = nullptr;
     bool m_showing = false;
 };

@@ -17,8 +17,6 @@ namespace {
 using records::escapeText;
 using records::nullToText;
 
-const QString isoDate = QStringLiteral("yyyy-MM-dd");
-
 QString amountText(const QVariant &value)
 {
     return value.isNull() ? QString() : Money::fromStored(value).toPaddedText();
@@ -47,8 +45,7 @@ QList<ChallanEntry> ChallanRecords::load(const StatementKey &statement) const
         }
         if (m_form.challanHasSection())
             entry.section = nullToText(record.value(QStringLiteral("Section")));
-        entry.date = QDate::fromString(nullToText(record.value(QStringLiteral("DtTrVoucher"))),
-                                       isoDate);
+        entry.date = records::dateOf(record.value(QStringLiteral("DtTrVoucher")));
         entry.bookEntry = nullToText(record.value(QStringLiteral("BookEntry")));
         rows.append(entry);
     }
@@ -81,7 +78,7 @@ void ChallanRecords::insert(ChallanEntry &entry, const StatementKey &statement) 
 
     QStringList columns = {"BasicIfoID", "CompID", "AsstID", "DtTrVoucher", "BookEntry"};
     QVariantList values = {statement.basicInfoId, statement.compId, statement.asstId,
-                           entry.date.toString(isoDate), entry.bookEntry};
+                           records::storedDate(entry.date), entry.bookEntry};
     if (m_form.challanHasSection()) {
         columns << QStringLiteral("Section");
         values << escapeText(entry.section);
@@ -101,7 +98,7 @@ void ChallanRecords::insert(ChallanEntry &entry, const StatementKey &statement) 
 void ChallanRecords::update(const ChallanEntry &entry, const StatementKey &statement) const
 {
     QStringList assignments = {QStringLiteral("DtTrVoucher = ?")};
-    QVariantList values = {entry.date.toString(isoDate)};
+    QVariantList values = {records::storedDate(entry.date)};
     if (m_form.challanHasSection()) {
         assignments << QStringLiteral("Section = ?");
         values << escapeText(entry.section);
@@ -122,7 +119,7 @@ void ChallanRecords::update(const ChallanEntry &entry, const StatementKey &state
     // The rows under the challan name its bank, number and date, and its section.
     QString carried = QStringLiteral("BankBranchCode = ?, BankChallanNo = ?, TaxPaidToCGDt = ?");
     QVariantList carriedValues = {escapeText(entry.bankCode), escapeText(entry.challanNo),
-                                  entry.date.toString(isoDate)};
+                                  records::storedDate(entry.date)};
     if (m_form.challanHasSection()) {
         carried.prepend(QStringLiteral("Section = ?, "));
         carriedValues.prepend(escapeText(entry.section));

@@ -54,7 +54,7 @@ void ChallanSheet::reload()
     } catch (const StoreError &error) {
         m_statement.reportStoreError(error);
     }
-    m_entry.slNo = QString::number(m_list.nextSerial());
+    m_entry.slNo = QString::number(m_list.nextNumber(&ChallanEntry::slNo));
 }
 
 void ChallanSheet::clearFields()
@@ -137,7 +137,7 @@ bool ChallanSheet::save()
             return refuse(selectSectionText, QStringLiteral("cmb116"));
     }
 
-    const int found = m_list.findSerial(serial);
+    const int found = m_list.find(&ChallanEntry::slNo, serial);
     try {
         Transaction transaction(m_statement.session().store);
         if (found >= 0) {

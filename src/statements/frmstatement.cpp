@@ -4,6 +4,7 @@
 #include "core/messageboxes.h"
 #include "core/screenroutines.h"
 #include "core/session.h"
+#include "statements/annexurepanel.h"
 #include "statements/basicinfopanel.h"
 #include "statements/challanpanel.h"
 
@@ -35,11 +36,12 @@ FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxe
     : QWidget(parent),
       m_sheet(session, boxes, form),
       m_challans(m_sheet),
+      m_annexureRows(m_sheet),
       m_boxes(boxes),
       m_basicInfo(new BasicInfoPanel(m_sheet, boxes, this)),
       m_challan(new ChallanPanel(m_sheet, m_challans, boxes, this)),
       m_panels(new QStackedWidget(this)),
-      m_annexure(new QWidget(this)),
+      m_annexure(new AnnexurePanel(m_sheet, m_annexureRows, boxes, this)),
       m_salary(new QWidget(this)),
       m_formCaption(new QLabel(QStringLiteral("     Form ") + form.formType, this)),
       m_companyName(new QLabel(this)),
@@ -47,7 +49,6 @@ FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxe
 {
     setObjectName(form.screenName);
     setWindowTitle(QStringLiteral("Form ") + form.formType);
-    m_annexure->setObjectName(QStringLiteral("pctDedt"));
     m_salary->setObjectName(QStringLiteral("pctEmp"));
     m_formCaption->setObjectName(QStringLiteral("lblFormCaption"));
     m_companyName->setObjectName(QStringLiteral("lblCompanyName"));
@@ -196,10 +197,6 @@ void FrmStatement::command(int index)
 
 void FrmStatement::showPanel(Panel panel)
 {
-    if (panel == Panel::Annexure) {
-        notAvailable(QStringLiteral("The %1 Detail panel").arg(m_sheet.form().partyWord));
-        return;
-    }
     if (panel == Panel::Salary) {
         notAvailable(QStringLiteral("The Salary Detail panel"));
         return;
@@ -210,6 +207,8 @@ void FrmStatement::showPanel(Panel panel)
     m_panels->setCurrentIndex(indexOf(m_sheet.panel()));
     if (panel == Panel::Challan)
         m_challan->open();
+    else if (panel == Panel::Annexure)
+        m_annexure->open();
     else
         m_basicInfo->showInfo();
     showAll();

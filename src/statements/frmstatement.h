@@ -1,10 +1,12 @@
 #pragma once
 
+#include "statements/annexuresheet.h"
 #include "statements/challansheet.h"
 #include "statements/statementsheet.h"
 
 #include <QWidget>
 
+class AnnexurePanel;
 class BasicInfoPanel;
 class ChallanPanel;
 class MessageBoxes;
@@ -47,11 +49,12 @@ private:
 
     StatementSheet m_sheet;
     ChallanSheet m_challans;
+    AnnexureSheet m_annexureRows;
     MessageBoxes &m_boxes;
     BasicInfoPanel *m_basicInfo;
     ChallanPanel *m_challan;
     QStackedWidget *m_panels;
-    QWidget *m_annexure;
+    AnnexurePanel *m_annexure;
     QWidget *m_salary;
     QLabel *m_formCaption;
     QLabel *m_companyName;

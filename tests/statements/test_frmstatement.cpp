@@ -1,7 +1,9 @@
 #include "statementfixture.h"
+#include "statements/challansheet.h"
 #include "statements/frmstatement.h"
 #include "statements/statementsheet.h"
 
+#include <QDateEdit>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -33,11 +35,11 @@ class TestFrmStatement : public QObject
     Q_OBJECT
 
 private slots:
-    void challanEnteredFromTheKeyboard();
+    void rowsEnteredFromTheKeyboard();
     void closeQuestion();
 };
 
-void TestFrmStatement::challanEnteredFromTheKeyboard()
+void TestFrmStatement::rowsEnteredFromTheKeyboard()
 {
     StatementFixture f(FormKind::Form26Q);
     FrmStatement screen(f.form, f.session, f.boxes);
@@ -50,6 +52,7 @@ void TestFrmStatement::challanEnteredFromTheKeyboard()
     QCOMPARE(f.boxes.texts().last(), StatementSheet::savedText);
     QVERIFY(challans->isEnabled());
     challans->click();
+    child<QDateEdit>(screen, "dtp119")->setDate(QDate(2026, 6, 10));
 
     // Section, date, bank code, challan number, cheque, then the amounts down to the remarks,
     // whose Enter saves.
@@ -64,11 +67,28 @@ void TestFrmStatement::challanEnteredFromTheKeyboard()
     QCOMPARE(child<QLineEdit>(screen, "txtCh(115)")->text(), "2");
     QCOMPARE(QApplication::focusWidget(), child(screen, "cmb116"));
 
+    // A deductee's row under it: the name brings the particulars, Enter walks to the options
+    // and saves.
+    f.data.insert("mstDeductee", {{"GroupId", 1}, {"DeducteeID", 7}, {"PAN", "AAACB1234C"},
+                                  {"DeducteeName", "BHARAT BUILDERS"}, {"DeducteeCode", "01"},
+                                  {"State", "KARNATAKA"}, {"StateCode", "15"}});
+    child<QPushButton>(screen, "cmdDeducteeDetails")->click();
+    child<QDateEdit>(screen, "dtp105")->setDate(QDate(2026, 6, 1));
+    for (const char *text : {"BHARAT BUILDERS", "", "", "", "", "", "", "", "", "", "", "1000",
+                             "10", "", "", "", "100", ""})
+        typeAndEnter(screen, text);
+    QCOMPARE(f.data.text("SELECT DeducteeName || '/' || TaxAmount || '/' || Tax FROM "
+                         "TranDeducteeE26"),
+             "BHARAT BUILDERS/100.0/100.0");
+    QCOMPARE(f.data.text("SELECT TotTax FROM TranChallanE26"), "100");
+    child<QPushButton>(screen, "cmdChallan")->click();
+
     list->setFocus();
     list->setCurrentIndex(list->model()->index(0, 0));
     f.boxes.answerNext(Answer::Yes);
     QTest::keyClick(list, Qt::Key_Delete);
-    QCOMPARE(list->model()->rowCount(), 0);
+    QCOMPARE(f.boxes.texts().last(), ChallanSheet::annexureRowsText(1));
+    QCOMPARE(list->model()->rowCount(), 1);
 }
 
 void TestFrmStatement::closeQuestion()

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "statements/annexureentry.h"
+#include "statements/challanrecords.h"
+
+#include <QList>
+
+class DataStore;
+struct ChallanEntry;
+struct FormTraits;
+
+/// Where an annexure row belongs: its Statement and its challan.
+struct ChallanRowsKey
+{
+    StatementKey statement;
+    int challanId = 0;
+};
+
+/**
+ * The annexure rows of one challan in the data store: read for the list in the order of their
+ * numbers, inserted with the next number under the challan, updated, and deleted. A row with tax
+ * deposited carries the challan's date, bank code and number; one without has none. Writes throw
+ * StoreError and are left to the caller's transaction.
+ */
+class AnnexureRecords
+{
+public:
+    AnnexureRecords(const DataStore &store, const FormTraits &form);
+
+    QList<AnnexureEntry> load(const ChallanRowsKey &key) const;
+    /// A new row under the challan; its number goes into the entry.
+    void insert(AnnexureEntry &entry, const ChallanEntry &challan,
+                const ChallanRowsKey &key) const;
+    void update(const AnnexureEntry &entry, const ChallanEntry &challan,
+                const ChallanRowsKey &key) const;
+    void remove(int rowId, const ChallanRowsKey &key) const;
+
+private:
+    /// The columns a row writes besides its keys, with their values.
+    QList<QPair<QString, QVariant>> values(const AnnexureEntry &entry,
+                                           const ChallanEntry &challan) const;
+
+    const DataStore &m_store;
+    const FormTraits &m_form;
+};

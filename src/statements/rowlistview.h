@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QTableView>
+
+/**
+ * The table in which a panel lists its entries: whole rows are chosen, nothing is edited in
+ * place, and each column is as wide as its head and the first rows need. Lists of thousands of
+ * rows are not measured row by row.
+ */
+class RowListView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    RowListView(const QString &name, QAbstractItemModel *model, QWidget *parent = nullptr);
+
+private:
+    void fitColumns();
+};
