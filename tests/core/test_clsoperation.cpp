@@ -1,10 +1,17 @@
 #include "core/clsoperation.h"
-#include "support/scriptedmessageboxes.h"
+#include "support/testsuite.h"
 
 #include <QHash>
 #include <QTest>
 
 namespace {
+
+// The operations by their index: Add, Modify, Delete, Print, Save, Cancel.
+constexpr void (ClsOperation::*const operations[])() = {
+    &ClsOperation::addRecord,   &ClsOperation::modifyRecord, &ClsOperation::deleteRecord,
+    &ClsOperation::printRecord, &ClsOperation::saveRecord,   &ClsOperation::userCanceled};
+constexpr int Add = 0, Modify = 1, Delete = 2, Print = 3, Save = 4, Cancel = 5;
+using CancelWrites = QHash<QString, bool>;
 
 // Writes down each step as "step@mode" and, for the steps it is told, writes the given value
 // into the cancel flag it was handed.
@@ -14,7 +21,7 @@ public:
     explicit RecordingHandler(const ClsOperation &operation) : m_operation(operation) {}
 
     QStringList steps;
-    QHash<QString, bool> cancelWrites;
+    CancelWrites cancelWrites;
 
     void beforeAdd(bool &cancel) override { step("beforeAdd", cancel); }
     void beforeModify(bool &cancel) override { step("beforeModify", cancel); }
@@ -40,172 +47,88 @@ private:
     const ClsOperation &m_operation;
 };
 
-// A screen whose save check fails until the field is filled in, as the masters' checks do.
-class CheckingHandler : public OperationHandler
-{
-public:
-    explicit CheckingHandler(MessageBoxes &boxes) : m_boxes(boxes) {}
-
-    bool nameFilled = false;
-    int saves = 0;
-
-    void validateData(bool &cancel) override
-    {
-        if (!nameFilled) {
-            m_boxes.show(Message{QStringLiteral("Enter the Name"), appTitle});
-            cancel = true;
-        }
-    }
-    void saveProcedure(bool &) override { ++saves; }
-
-private:
-    MessageBoxes &m_boxes;
-};
-
-enum class Call { Add, Modify, Delete, Print, Save, Cancel };
-
-void run(ClsOperation &operation, Call call)
-{
-    switch (call) {
-    case Call::Add: operation.addRecord(); break;
-    case Call::Modify: operation.modifyRecord(); break;
-    case Call::Delete: operation.deleteRecord(); break;
-    case Call::Print: operation.printRecord(); break;
-    case Call::Save: operation.saveRecord(); break;
-    case Call::Cancel: operation.userCanceled(); break;
-    }
-}
-
-using CancelWrites = QHash<QString, bool>;
-
 } // namespace
-
-Q_DECLARE_METATYPE(Call)
-Q_DECLARE_METATYPE(CancelWrites)
 
 class TestClsOperation : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void stepsInOrder_data();
-    void stepsInOrder();
-    void cancelledFlagIsResetByTheNextOperation();
-    void failingSaveTwiceThenPassing();
-};
-
-void TestClsOperation::stepsInOrder_data()
-{
-    QTest::addColumn<int>("startMode");
-    QTest::addColumn<Call>("call");
-    QTest::addColumn<CancelWrites>("cancelWrites");
-    QTest::addColumn<QStringList>("steps");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("cancelled");
-
-    const CancelWrites none;
-    // Add starts with the flag set; the handler sees it set and nobody clears it.
-    QTest::newRow("add") << 0 << Call::Add << none << QStringList{"beforeAdd@1"} << 1 << true;
-    QTest::newRow("add, handler clears the flag")
-        << 0 << Call::Add << CancelWrites{{"beforeAdd", false}} << QStringList{"beforeAdd@1"}
-        << 1 << false;
-    QTest::newRow("modify") << 0 << Call::Modify << none << QStringList{"beforeModify@2"} << 2
-                            << false;
-    QTest::newRow("delete") << 0 << Call::Delete << none
-                            << QStringList{"beforeDelete@3", "deleteRecord@3"} << 3 << false;
-    QTest::newRow("delete answered No") << 0 << Call::Delete
-                                        << CancelWrites{{"beforeDelete", true}}
-                                        << QStringList{"beforeDelete@3"} << 3 << true;
-    QTest::newRow("delete fails in deleteRecord")
-        << 0 << Call::Delete << CancelWrites{{"deleteRecord", true}}
-        << QStringList{"beforeDelete@3", "deleteRecord@3"} << 3 << true;
-    QTest::newRow("print from editing") << 2 << Call::Print << none
-                                        << QStringList{"beforePrint@4", "printRecord@4"} << 4
-                                        << false;
-    QTest::newRow("print with no data") << 0 << Call::Print
-                                        << CancelWrites{{"beforePrint", true}}
-                                        << QStringList{"beforePrint@4"} << 4 << true;
-    QTest::newRow("save of an added record")
-        << 1 << Call::Save << none << QStringList{"validateData@1", "saveProcedure@1"} << 1
-        << false;
-    QTest::newRow("save refused by a check") << 1 << Call::Save
-                                             << CancelWrites{{"validateData", true}}
-                                             << QStringList{"validateData@1"} << 1 << true;
-    QTest::newRow("save fails in the procedure")
-        << 2 << Call::Save << CancelWrites{{"saveProcedure", true}}
-        << QStringList{"validateData@2", "saveProcedure@2"} << 2 << true;
-    // Nothing was added or modified, yet both steps run; their mode tests match nothing.
-    QTest::newRow("save on a new, idle object")
-        << -1 << Call::Save << none << QStringList{"validateData@0", "saveProcedure@0"} << 0
-        << false;
-    // The handler undoes what was being edited, so it must still see that mode.
-    QTest::newRow("cancel an add") << 1 << Call::Cancel << none << QStringList{"afterCancel@1"}
-                                   << 0 << false;
-}
-
-void TestClsOperation::stepsInOrder()
-{
-    QFETCH(int, startMode);
-    QFETCH(Call, call);
-    QFETCH(CancelWrites, cancelWrites);
-    QFETCH(QStringList, steps);
-    QFETCH(int, mode);
-    QFETCH(bool, cancelled);
-
-    ClsOperation operation;
-    RecordingHandler handler(operation);
-    operation.setHandler(&handler);
-    handler.cancelWrites = cancelWrites;
-    if (startMode >= 0)
-        operation.setOperationMode(startMode);
-
-    run(operation, call);
-
-    QCOMPARE(handler.steps, steps);
-    QCOMPARE(operation.operationMode(), mode);
-    QCOMPARE(operation.actionCancelled(), cancelled);
-}
-
-void TestClsOperation::cancelledFlagIsResetByTheNextOperation()
-{
-    const QList<Call> calls = {Call::Modify, Call::Delete, Call::Print, Call::Save};
-    for (Call call : calls) {
+    void stepsInOrder_data()
+    {
+        // startMode: -1: a new object
+        testsuite::columns<int, int, CancelWrites, QStringList, int, bool>("startMode", "call",
+                                                                           "cancelWrites", "steps",
+                                                                           "mode", "cancelled");
+        const CancelWrites none;
+        // Add starts with the flag set; the handler sees it set and nobody clears it.
+        QTest::newRow("add") << 0 << Add << none << QStringList{"beforeAdd@1"} << 1 << true;
+        QTest::newRow("add, flag cleared") << 0 << Add << CancelWrites{{"beforeAdd", false}}
+                                           << QStringList{"beforeAdd@1"} << 1 << false;
+        QTest::newRow("modify") << 0 << Modify << none << QStringList{"beforeModify@2"}
+                                << 2 << false;
+        QTest::newRow("delete") << 0 << Delete << none
+                                << QStringList{"beforeDelete@3", "deleteRecord@3"} << 3 << false;
+        QTest::newRow("delete answered No") << 0 << Delete
+                                            << CancelWrites{{"beforeDelete", true}}
+                                            << QStringList{"beforeDelete@3"} << 3 << true;
+        QTest::newRow("delete fails") << 0 << Delete << CancelWrites{{"deleteRecord", true}}
+                                      << QStringList{"beforeDelete@3", "deleteRecord@3"} << 3
+                                      << true;
+        QTest::newRow("print from editing") << 2 << Print << none
+                                            << QStringList{"beforePrint@4", "printRecord@4"}
+                                            << 4 << false;
+        QTest::newRow("print with no data") << 0 << Print
+                                            << CancelWrites{{"beforePrint", true}}
+                                            << QStringList{"beforePrint@4"} << 4 << true;
+        QTest::newRow("save refused by a check") << 1 << Save
+                                                 << CancelWrites{{"validateData", true}}
+                                                 << QStringList{"validateData@1"} << 1 << true;
+        QTest::newRow("save fails") << 2 << Save << CancelWrites{{"saveProcedure", true}}
+                                    << QStringList{"validateData@2", "saveProcedure@2"} << 2
+                                    << true;
+        // Nothing was added or modified, yet both steps run; their mode tests match nothing.
+        QTest::newRow("save on a new object")
+            << -1 << Save << none << QStringList{"validateData@0", "saveProcedure@0"} << 0
+            << false;
+        // The handler undoes what was being edited, so it must still see that mode.
+        QTest::newRow("cancel an add") << 1 << Cancel << none
+                                       << QStringList{"afterCancel@1"} << 0 << false;
+    }
+    void stepsInOrder()
+    {
+        QFETCH(int, startMode);
+        QFETCH(int, call);
         ClsOperation operation;
         RecordingHandler handler(operation);
         operation.setHandler(&handler);
-        handler.cancelWrites = {{"beforeDelete", true}};
-        operation.deleteRecord();
-        QVERIFY(operation.actionCancelled());
+        QFETCH(CancelWrites, cancelWrites);
+        handler.cancelWrites = cancelWrites;
+        if (startMode >= 0)
+            operation.setOperationMode(startMode);
 
-        handler.cancelWrites.clear();
-        run(operation, call);
-        QVERIFY2(!operation.actionCancelled(), qPrintable(handler.steps.last()));
+        (operation.*operations[call])();
+
+        QTEST(handler.steps, "steps");
+        QTEST(operation.operationMode(), "mode");
+        QTEST(operation.actionCancelled(), "cancelled");
     }
-}
 
-void TestClsOperation::failingSaveTwiceThenPassing()
-{
-    ScriptedMessageBoxes boxes;
-    CheckingHandler handler(boxes);
-    ClsOperation operation(&handler);
-    operation.addRecord();
+    void cancelledFlagIsResetByTheNextOperation()
+    {
+        for (int call : {Modify, Delete, Print, Save}) {
+            ClsOperation operation;
+            RecordingHandler handler(operation);
+            operation.setHandler(&handler);
+            handler.cancelWrites = {{"beforeDelete", true}};
+            operation.deleteRecord();
+            QVERIFY(operation.actionCancelled());
+            handler.cancelWrites.clear();
+            (operation.*operations[call])();
+            QVERIFY2(!operation.actionCancelled(), qPrintable(handler.steps.last()));
+        }
+    }
+};
 
-    operation.saveRecord();
-    operation.saveRecord();
-
-    QCOMPARE(boxes.texts(), QStringList({"Enter the Name", "Enter the Name"}));
-    QCOMPARE(handler.saves, 0);
-    QCOMPARE(operation.operationMode(), int(ClsOperation::AddMode));
-    QVERIFY(operation.actionCancelled());
-
-    handler.nameFilled = true;
-    operation.saveRecord();
-
-    QCOMPARE(boxes.shown.size(), 2);
-    QCOMPARE(handler.saves, 1);
-    QVERIFY(!operation.actionCancelled());
-}
-
-QTEST_APPLESS_MAIN(TestClsOperation)
-
+KELVORA_TEST_OBJECT(TestClsOperation);
 #include "test_clsoperation.moc"

@@ -1,6 +1,10 @@
+#include "corestore.h"
+#include "core/clsoperation.h"
+#include "core/commandbar.h"
+#include "core/masterbuttonbar.h"
 #include "core/storeerror.h"
 #include "core/widgetroutines.h"
-#include "support/teststore.h"
+#include "support/testsuite.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -9,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTreeWidget>
@@ -21,8 +26,7 @@ T *add(QWidget *parent, const QString &name, const QString &tag = {})
 {
     auto *widget = new T(parent);
     widget->setObjectName(name);
-    if (!tag.isNull())
-        widget->setProperty("tag", tag);
+    widget->setProperty("tag", tag);
     parent->layout()->addWidget(widget);
     return widget;
 }
@@ -32,250 +36,187 @@ QComboBox *addCombo(QWidget *parent, const QString &name, const QString &tag = {
 {
     auto *combo = add<QComboBox>(parent, name, tag);
     combo->setEditable(editable);
-    combo->addItems({QStringLiteral("Yes"), QStringLiteral("No"), QStringLiteral("General")});
+    combo->addItems({QStringLiteral("Yes"), QStringLiteral("No")});
     combo->setCurrentIndex(1);
     return combo;
 }
 
-// What the user sees in a control: its text, and for a combo also the row chosen.
-QString shownValue(const QWidget *widget)
+// What the user sees of each control of the form: its text, for a combo also the row chosen.
+QStringList shownValues(const QWidget *form)
 {
-    if (auto *combo = qobject_cast<const QComboBox *>(widget))
-        return QStringLiteral("%1#%2").arg(combo->currentText()).arg(combo->currentIndex());
-    if (auto *dateEdit = qobject_cast<const QDateEdit *>(widget))
-        return dateEdit->text();
-    if (auto *edit = qobject_cast<const QLineEdit *>(widget))
-        return edit->text();
-    if (auto *edit = qobject_cast<const QPlainTextEdit *>(widget))
-        return edit->toPlainText();
-    if (auto *label = qobject_cast<const QLabel *>(widget))
-        return label->text();
-    if (auto *check = qobject_cast<const QCheckBox *>(widget))
-        return check->isChecked() ? QStringLiteral("checked") : QStringLiteral("unchecked");
-    return {};
+    QStringList values;
+    for (const QWidget *widget : form->findChildren<QWidget *>()) {
+        QString value;
+        // The line edit inside a date box is Qt's own.
+        if (widget->objectName().isEmpty() || widget->objectName().startsWith(u"qt_"))
+            continue;
+        if (auto *combo = qobject_cast<const QComboBox *>(widget))
+            value = QStringLiteral("%1#%2").arg(combo->currentText()).arg(combo->currentIndex());
+        else if (auto *date = qobject_cast<const QDateEdit *>(widget))
+            value = date->text();
+        else if (auto *edit = qobject_cast<const QLineEdit *>(widget))
+            value = edit->text();
+        else if (auto *edit = qobject_cast<const QPlainTextEdit *>(widget))
+            value = edit->toPlainText();
+        else if (auto *label = qobject_cast<const QLabel *>(widget))
+            value = label->text();
+        else if (auto *check = qobject_cast<const QCheckBox *>(widget))
+            value = check->isChecked() ? QStringLiteral("checked") : QString();
+        else
+            continue;
+        values << widget->objectName() + u'=' + value;
+    }
+    values.sort();
+    return values;
 }
 
-// A master screen with one control of each kind that clearControls tells apart.
-class EntryForm : public QWidget
+QStringList itemTexts(const QComboBox &combo)
 {
-public:
-    EntryForm()
-    {
-        new QVBoxLayout(this);
-        add<QLineEdit>(this, QStringLiteral("txtName"))->setText(QStringLiteral("RAVI"));
-        add<QLineEdit>(this, QStringLiteral("txtPrefix"), QStringLiteral("pj"))
-            ->setText(QStringLiteral("ABC"));
-        auto *frame = add<QGroupBox>(this, QStringLiteral("fraAmounts"));
-        new QVBoxLayout(frame);
-        add<QLineEdit>(frame, QStringLiteral("txtCh(117)"))->setText(QStringLiteral("100.00"));
-        add<QLineEdit>(frame, QStringLiteral("txtId"), QStringLiteral("X"))
-            ->setText(QStringLiteral("7"));
-        add<QPlainTextEdit>(this, QStringLiteral("txtRemarks"))
-            ->setPlainText(QStringLiteral("two\nlines"));
-        addCombo(this, QStringLiteral("cmbGrp"));
-        addCombo(this, QStringLiteral("cmbState"), {}, true)->setEditText(QStringLiteral("GOA"));
-        addCombo(this, QStringLiteral("cmbCat"), QStringLiteral("Pj"), true);
-        addCombo(this, QStringLiteral("cmbYesNo"));
-        addCombo(this, QStringLiteral("cmbchbookentry"));
-        addCombo(this, QStringLiteral("cmbDedbookentry(2)"));
-        addCombo(frame, QStringLiteral("cmbSection(1)"));
-        add<QLabel>(this, QStringLiteral("lblTotal"), QStringLiteral("clear"))
-            ->setText(QStringLiteral("500.00"));
-        add<QLabel>(this, QStringLiteral("lblTds"), QStringLiteral("CL"))
-            ->setText(QStringLiteral("50.00"));
-        add<QLabel>(this, QStringLiteral("lblName"))->setText(QStringLiteral("Name"));
-        auto *date = add<QDateEdit>(this, QStringLiteral("dtpFrom"));
-        date->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
-        date->setDate(QDate(2026, 4, 1));
-        add<QCheckBox>(this, QStringLiteral("chkSalary"))->setChecked(true);
-    }
-};
-
-struct ListRow
-{
-    QString text;
-    QString amount;
-    bool selected = false;
-};
+    QStringList texts;
+    for (int row = 0; row < combo.count(); ++row)
+        texts << combo.itemText(row);
+    return texts;
+}
 
 } // namespace
-
-Q_DECLARE_METATYPE(ListRow)
 
 class TestWidgetRoutines : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void fillCombo_data();
-    void fillCombo();
-    void fillComboChoosesNothingAndIsSilent();
-    void fillComboFailureLeavesTheRows();
-    void clearControls_data();
-    void clearControls();
-    void removeSelectedRows_data();
-    void removeSelectedRows();
+    void fillCombo()
+    {
+        const DataStore &store = coreStore().store();
+        const QString sql = QStringLiteral("SELECT GroupName FROM mstGroup WHERE GroupID < ? "
+                                           "ORDER BY GroupName");
+        for (bool editable : {false, true}) {
+            QComboBox combo;
+            combo.setEditable(editable);
+            combo.addItems({QStringLiteral("X"), QStringLiteral("Y")});
+            combo.setCurrentIndex(1);
+            QSignalSpy changed(&combo, &QComboBox::currentIndexChanged);
+            widgetroutines::fillComboWithBlank(&combo, store, "mstGroup", "GroupName", true, sql,
+                                               false, {3});
+            QCOMPARE(itemTexts(combo), QStringList({"", "Alpha Group", "Beta Group"}));
+            // Refilling is no choice of the user's: nothing chosen and no signal.
+            QCOMPARE(combo.currentIndex(), -1);
+            QCOMPARE(combo.currentText(), QString());
+            QCOMPARE(changed.size(), 0);
+            widgetroutines::fillCombo(&combo, store, "mstGroup", "GroupName", true, sql, true,
+                                      {3});
+            QCOMPARE(itemTexts(combo), QStringList({"Alpha Group", "Beta Group"}));
+            // A statement without rows leaves the combo empty, without the blank row.
+            widgetroutines::fillComboWithBlank(&combo, store, "mstGroup", "GroupName", true, sql,
+                                               false, {0});
+            QCOMPARE(combo.count(), 0);
+        }
+        // A failure reaches the caller and leaves the rows as they were.
+        QComboBox combo;
+        combo.addItems({QStringLiteral("X"), QStringLiteral("Y")});
+        QVERIFY_THROWS_EXCEPTION(StoreError, widgetroutines::fillCombo(&combo, store, "mstNone",
+                                                                       "GroupName", true));
+        QCOMPARE(combo.count(), 2);
+    }
+
+    void clearControls()
+    {
+        QWidget form;
+        new QVBoxLayout(&form);
+        add<QLineEdit>(&form, "txtName")->setText("RAVI");
+        add<QLineEdit>(&form, "txtPrefix", "pj")->setText("ABC"); // carried to the next entry
+        auto *frame = add<QGroupBox>(&form, "fraAmounts");
+        new QVBoxLayout(frame);
+        add<QLineEdit>(frame, "txtCh(117)")->setText("100.00");
+        add<QPlainTextEdit>(&form, "txtRemarks")->setPlainText("two\nlines");
+        addCombo(&form, "cmbGrp");
+        addCombo(&form, "cmbState", {}, true)->setEditText("GOA");
+        addCombo(&form, "cmbCat", "Pj", true);
+        addCombo(&form, "cmbchbookentry");
+        addCombo(frame, "cmbDedbookentry(2)");
+        addCombo(frame, "cmbSection(1)");
+        add<QLabel>(&form, "lblTotal", "clear")->setText("500.00");
+        add<QLabel>(&form, "lblTds", "CL")->setText("50.00");
+        add<QLabel>(&form, "lblName")->setText("Name");
+        auto *date = add<QDateEdit>(&form, "dtpFrom");
+        date->setDisplayFormat("dd/MM/yyyy");
+        date->setDate(QDate(2026, 4, 1));
+        add<QCheckBox>(&form, "chkSalary")->setChecked(true);
+
+        widgetroutines::clearControls(&form);
+
+        QStringList expected({"txtName=", "txtPrefix=ABC", "txtCh(117)=", "txtRemarks=",
+                              "cmbGrp=#-1", "cmbState=#-1", "cmbCat=No#1", "cmbchbookentry=No#1",
+                              "cmbDedbookentry(2)=No#1", "cmbSection(1)=#-1", "lblTotal=",
+                              "lblTds=", "lblName=Name", "dtpFrom=01/04/2026",
+                              "chkSalary=checked"});
+        expected.sort();
+        QCOMPARE(shownValues(&form), expected);
+    }
+
+    void removeSelectedRows()
+    {
+        QTreeWidget list;
+        list.setColumnCount(2);
+        list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+        for (const char *text : {"1", " 2 ", "3", "4 "})
+            new QTreeWidgetItem(&list, {QLatin1String(text), QStringLiteral(" 10.00")});
+        list.topLevelItem(0)->setSelected(true);
+        list.topLevelItem(2)->setSelected(true);
+        widgetroutines::removeSelectedRows(&list);
+        QStringList kept;
+        for (int index = 0; index < list.topLevelItemCount(); ++index)
+            kept << list.topLevelItem(index)->text(0) + u'|' + list.topLevelItem(index)->text(1);
+        QCOMPARE(kept, QStringList({"2| 10.00", "4| 10.00"}));
+    }
+
+    // The bar's buttons, "1" enabled and "0" disabled, cmd(0) first; the close button beside
+    // the bar is never touched.
+    void commandButtons_data()
+    {
+        // action: "browse", "editing" or a word of enableCommands
+        testsuite::columns<QString, QString, int>("action", "states", "mode");
+        QTest::newRow("browse") << "browse" << "11001" << 0;
+        QTest::newRow("editing") << "editing" << "00110" << 0;
+        QTest::newRow("the list's Delete key") << "True" << "11111" << 0;
+        QTest::newRow("Load") << "Load" << "10101" << 0;
+        QTest::newRow("Cancel") << "Cancel" << "10101" << 0;
+        QTest::newRow("Add") << "Add" << "01101" << 0;
+        QTest::newRow("Edit") << "Edit" << "11111" << 2;
+        QTest::newRow("word in another case") << "load" << "11111" << 0;
+    }
+    void commandButtons()
+    {
+        QFETCH(QString, action);
+        QWidget form;
+        new QVBoxLayout(&form);
+        auto *bar = new MasterButtonBar(add<QWidget>(&form, "frame"));
+        auto *close = add<QPushButton>(&form, "cmdClose");
+        close->setEnabled(false);
+        for (int index = 0; index < MasterButtonBar::count; ++index)
+            bar->button(index)->setEnabled(action == u"editing");
+        ClsOperation operation;
+
+        if (action == u"browse" || action == u"editing") {
+            commandbar::setCommandButtons(&form, action == u"browse");
+        } else {
+            // Screens without an operation object use the same routine.
+            commandbar::enableCommands(&form, action, nullptr);
+            commandbar::enableCommands(&form, action, &operation);
+        }
+
+        QString states;
+        for (int index = 0; index < MasterButtonBar::count; ++index)
+            states += commandbar::button(&form, index)->isEnabled() ? u'1' : u'0';
+        QTEST(states, "states");
+        QTEST(operation.operationMode(), "mode");
+        QVERIFY(!close->isEnabled());
+        QSignalSpy clicked(bar, &MasterButtonBar::clicked);
+        commandbar::button(&form, 4)->setEnabled(true);
+        commandbar::button(&form, 4)->click();
+        QCOMPARE(clicked.value(0).value(0).toInt(), 4);
+    }
 };
 
-void TestWidgetRoutines::fillCombo_data()
-{
-    QTest::addColumn<bool>("withBlank");
-    QTest::addColumn<QString>("statement");
-    QTest::addColumn<QStringList>("rows");
-
-    const QString all = QStringLiteral("SELECT GroupName FROM mstGroup ORDER BY GroupName");
-    const QString none = QStringLiteral("SELECT GroupName FROM mstGroup WHERE GroupID = 99");
-    QTest::newRow("rows") << false << all << QStringList{"ALPHA", "BETA"};
-    QTest::newRow("no rows") << false << none << QStringList{};
-    QTest::newRow("blank and rows") << true << all << QStringList{"", "ALPHA", "BETA"};
-    QTest::newRow("no rows, no blank") << true << none << QStringList{};
-}
-
-void TestWidgetRoutines::fillCombo()
-{
-    QFETCH(bool, withBlank);
-    QFETCH(QString, statement);
-    QFETCH(QStringList, rows);
-
-    TestStore test;
-    test.store().exec(QStringLiteral(
-        "INSERT INTO mstGroup (GroupID, GroupName) VALUES (1, 'BETA'), (2, 'ALPHA')"));
-    QComboBox combo;
-    combo.addItems({QStringLiteral("OLD ROW")});
-
-    const QString table = QStringLiteral("mstGroup");
-    const QString column = QStringLiteral("GroupName");
-    if (withBlank)
-        widgetroutines::fillComboWithBlank(&combo, test.store(), table, column, true, statement);
-    else
-        widgetroutines::fillCombo(&combo, test.store(), table, column, true, statement);
-
-    QStringList shown;
-    for (int row = 0; row < combo.count(); ++row)
-        shown << combo.itemText(row);
-    QCOMPARE(shown, rows);
-}
-
-void TestWidgetRoutines::fillComboChoosesNothingAndIsSilent()
-{
-    TestStore test;
-    test.store().exec(QStringLiteral("INSERT INTO mstGroup (GroupID, GroupName) VALUES (1, 'A')"));
-    for (bool editable : {false, true}) {
-        QComboBox combo;
-        combo.setEditable(editable);
-        combo.addItems({QStringLiteral("X"), QStringLiteral("Y")});
-        combo.setCurrentIndex(1);
-        QSignalSpy changed(&combo, &QComboBox::currentIndexChanged);
-
-        widgetroutines::fillCombo(&combo, test.store(), QStringLiteral("mstGroup"),
-                                  QStringLiteral("GroupName"), false);
-
-        QCOMPARE(combo.count(), 1);
-        QCOMPARE(combo.currentIndex(), -1);
-        QCOMPARE(combo.currentText(), QString());
-        QCOMPARE(changed.size(), 0);
-    }
-}
-
-void TestWidgetRoutines::fillComboFailureLeavesTheRows()
-{
-    TestStore test;
-    QComboBox combo;
-    combo.addItems({QStringLiteral("X"), QStringLiteral("Y")});
-    combo.setCurrentIndex(1);
-
-    QVERIFY_THROWS_EXCEPTION(StoreError,
-                             widgetroutines::fillComboWithBlank(
-                                 &combo, test.store(), QStringLiteral("mstNoSuchTable"),
-                                 QStringLiteral("GroupName"), true));
-
-    QCOMPARE(combo.count(), 2);
-    QCOMPARE(combo.currentIndex(), 1);
-}
-
-void TestWidgetRoutines::clearControls_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("value");
-
-    QTest::newRow("text box") << "txtName" << "";
-    QTest::newRow("text box tagged pj") << "txtPrefix" << "ABC";
-    QTest::newRow("text box in a frame") << "txtCh(117)" << "";
-    QTest::newRow("text box with another tag") << "txtId" << "";
-    QTest::newRow("multi-line text box") << "txtRemarks" << "";
-    QTest::newRow("list combo") << "cmbGrp" << "#-1";
-    QTest::newRow("editable combo") << "cmbState" << "#-1";
-    QTest::newRow("editable combo tagged Pj") << "cmbCat" << "No#1";
-    QTest::newRow("cmbYesNo") << "cmbYesNo" << "No#1";
-    QTest::newRow("cmbChbookentry, other case") << "cmbchbookentry" << "No#1";
-    QTest::newRow("cmbDedbookentry in an array") << "cmbDedbookentry(2)" << "No#1";
-    QTest::newRow("combo array in a frame") << "cmbSection(1)" << "#-1";
-    QTest::newRow("label tagged clear") << "lblTotal" << "";
-    QTest::newRow("label tagged CL") << "lblTds" << "";
-    QTest::newRow("caption label") << "lblName" << "Name";
-    // The date box holds a line edit of its own, which is not a text box of the form.
-    QTest::newRow("date") << "dtpFrom" << "01/04/2026";
-    QTest::newRow("check box") << "chkSalary" << "checked";
-}
-
-void TestWidgetRoutines::clearControls()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, value);
-
-    EntryForm form;
-    widgetroutines::clearControls(&form);
-
-    const QWidget *widget = form.findChild<QWidget *>(name);
-    QVERIFY(widget);
-    QCOMPARE(shownValue(widget), value);
-}
-
-void TestWidgetRoutines::removeSelectedRows_data()
-{
-    QTest::addColumn<QList<ListRow>>("rows");
-    QTest::addColumn<QStringList>("kept");
-
-    const auto row = [](const char *text, const char *amount, bool selected = false) {
-        return ListRow{QString::fromLatin1(text), QString::fromLatin1(amount), selected};
-    };
-    QTest::newRow("middle row")
-        << QList<ListRow>{row("1", "10.00"), row("2", "20.00", true), row("3 ", "30.00")}
-        << QStringList{"1|10.00", "3|30.00"};
-    QTest::newRow("first and last")
-        << QList<ListRow>{row("1", "10.00", true), row(" 2 ", " 20.00"), row("3", "30.00", true)}
-        << QStringList{"2| 20.00"};
-    QTest::newRow("nothing selected")
-        << QList<ListRow>{row(" 1", "10.00"), row("2  ", "20.00")}
-        << QStringList{"1|10.00", "2|20.00"};
-    QTest::newRow("all selected")
-        << QList<ListRow>{row("1", "10.00", true), row("2", "20.00", true)} << QStringList{};
-}
-
-void TestWidgetRoutines::removeSelectedRows()
-{
-    QFETCH(QList<ListRow>, rows);
-    QFETCH(QStringList, kept);
-
-    QTreeWidget list;
-    list.setColumnCount(2);
-    list.setRootIsDecorated(false);
-    list.setSelectionMode(QAbstractItemView::ExtendedSelection);
-    for (const ListRow &row : rows) {
-        auto *item = new QTreeWidgetItem(&list, {row.text, row.amount});
-        item->setSelected(row.selected);
-    }
-
-    widgetroutines::removeSelectedRows(&list);
-
-    QStringList shown;
-    for (int index = 0; index < list.topLevelItemCount(); ++index) {
-        const QTreeWidgetItem *item = list.topLevelItem(index);
-        shown << item->text(0) + QLatin1Char('|') + item->text(1);
-    }
-    QCOMPARE(shown, kept);
-}
-
-QTEST_MAIN(TestWidgetRoutines)
-
+KELVORA_TEST_OBJECT(TestWidgetRoutines);
 #include "test_widgetroutines.moc"
