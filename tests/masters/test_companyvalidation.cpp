@@ -1,21 +1,18 @@
-#include "companytestdata.h"
+#include "mastersstore.h"
 #include "core/fieldrules.h"
 #include "masters/companyvalidation.h"
 #include "masters/groupmaster.h"
 #include "support/scriptedmessageboxes.h"
-#include "support/teststore.h"
+#include "support/testsuite.h"
 
-#include <QtTest>
+#include <QTest>
 
-using namespace companytestdata;
 using V = CompanyValidation;
 
 namespace {
 
-// The entry with some fields changed, by control name.
-CompanyEntry changed(const QVariantMap &changes)
+CompanyEntry changed(const QVariantMap &changes, CompanyEntry entry = validEntry())
 {
-    CompanyEntry entry = validEntry();
     for (auto it = changes.cbegin(); it != changes.cend(); ++it)
         entry.setValue(it.key(), it.value().toString());
     return entry;
@@ -28,330 +25,170 @@ QString emailErrorOf(const QString &address)
     return error;
 }
 
+struct Duplicate
+{
+    int compId; // 0: a new company
+    const char *tan;
+    const char *name;
+    const char *pan;
+    const char *prefix;
+    Answer answer; // Answer::None: no question expected
+    QString refusal; // empty: passed, "declined": No to the question
+};
+
 } // namespace
+
+Q_DECLARE_METATYPE(Duplicate)
 
 class TestCompanyValidation : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void checkFields_data();
-    void checkFields();
-    void earlierCheckWins_data();
-    void earlierCheckWins();
-    void tanDuplicates_data();
-    void tanDuplicates();
-    void nameAndPanWarning_data();
-    void nameAndPanWarning();
-    void prefixDuplicates_data();
-    void prefixDuplicates();
-    void leavingFields();
+    // An entry wrong in every way: each check in turn names its field, and is put right.
+    void checksInOrder()
+    {
+        CompanyEntry entry = changed({{"cmbMinistry", "others"}, {"txtEmail", "accounts.zed"},
+                                      {"txtPemail", "raj@zed"}, {"txtGrpId", "0"},
+                                      {"txtStID", ""}, {"txtPStId", "0"}});
+        struct Step
+        {
+            const char *field;
+            QString text;
+            QVariantMap fix;
+        };
+        const QList<Step> steps = {
+            {"txtTan", V::enterTanText, {{"txtTan", "MUMZ12345B"}}},
+            {"cmbGroupName", GroupMaster::enterGroupText, {{"cmbGroupName", "ALPHA GROUP"}}},
+            {"txtCompName", V::enterCompanyNameText, {{"txtCompName", "ZED"}}},
+            {"cmbDeType", V::enterDeductorTypeText, {{"cmbDeType", "s"}}},
+            {"txtAddress1", V::enterAddressText, {{"txtAddress1", "X"}}},
+            {"cmbState", V::enterStateText, {{"cmbState", "GOA"}}},
+            {"txtPincode", V::enterPinText, {{"txtPincode", "1"}}},
+            {"txtPersonName", V::enterPersonNameText, {{"txtPersonName", "X"}}},
+            {"txtDesignation", V::enterDesignationText, {{"txtDesignation", "X"}}},
+            {"txtPAddress1", V::enterAddressText, {{"txtPAddress1", "X"}}},
+            {"cmbPState", V::enterStateText, {{"cmbPState", "GOA"}}},
+            {"txtPpincode", V::enterPinText, {{"txtPpincode", "1"}}},
+            {"txtPrefix", V::enterPrefixText, {{"txtPrefix", "ZED"}}},
+            {"txtEmail", emailErrorOf("accounts.zed"), {{"txtEmail", ""}}},
+            {"txtPemail", emailErrorOf("raj@zed"), {{"txtPemail", "raj@zed.in"}}},
+            {"cmbGroupName", V::properGroupText, {{"txtGrpId", "1"}}},
+            {"cmbState", V::stateFromListText, {{"txtStID", "10"}}},
+            {"cmbDState", V::deductorStateText, {{"cmbDeType", "A"}}},
+            {"cmbMinistry", V::ministryText, {{"txtMinistryID", "99"}}},
+            {"txtPAOCode", V::paoCodeText, {{"txtPAOCode", "P1"}}},
+            {"txtDDOCode", V::ddoCodeText, {{"txtDDOCode", "D1"}}},
+            {"txtMinistryNameOther", V::otherMinistryText, {{"txtMinistryNameOther", "BOARD"}}},
+            {"cmbPState", V::stateFromListText, {{"txtPStId", "10"}}},
+        };
+        for (const char *blank : {"txtTan", "cmbGroupName", "txtCompName", "cmbDeType",
+                                  "txtAddress1", "cmbState", "txtPincode", "txtPersonName",
+                                  "txtDesignation", "txtPAddress1", "cmbPState", "txtPpincode",
+                                  "txtPrefix"})
+            entry.setValue(QLatin1String(blank), QStringLiteral(" "));
+        for (const Step &step : steps) {
+            const std::optional<FieldFailure> failure = V::checkFields(entry);
+            QVERIFY2(failure, step.field);
+            // The blanks come under "Invalid Entry", the other refusals under the program's name.
+            const bool blank = step.text.startsWith(u"Please enter");
+            QCOMPARE(*failure, (FieldFailure{{step.text, blank ? "Invalid Entry" : appTitle,
+                                              MessageIcon::Information},
+                                             QLatin1String(step.field)}));
+            entry = changed(step.fix, entry);
+        }
+        QCOMPARE(V::checkFields(entry), std::nullopt);
+    }
+
+    // What each deductor type asks for beyond the blanks.
+    void deductorTypes_data()
+    {
+        // field: empty: every check passes
+        testsuite::columns<QVariantMap, QString>("changes", "field");
+        for (const char *type : {"E", "H", "N"})
+            QTest::newRow(type) << QVariantMap{{"cmbDeType", type}} << "cmbDState";
+        QTest::newRow("E with its state") << QVariantMap{{"cmbDeType", "E"}, {"txtDStId", "19"}}
+                                          << "";
+        for (const char *type : {"D", "G"})
+            QTest::newRow(type) << QVariantMap{{"cmbDeType", type}} << "cmbMinistry";
+        QTest::newRow("D needs no PAO code")
+            << QVariantMap{{"cmbDeType", "D"}, {"txtMinistryID", "11"}} << "";
+        QTest::newRow("L needs no ministry") << QVariantMap{{"cmbDeType", "L"}} << "";
+    }
+    void deductorTypes()
+    {
+        QFETCH(QVariantMap, changes);
+        QFETCH(QString, field);
+        const std::optional<FieldFailure> failure = V::checkFields(changed(changes));
+        QCOMPARE(failure ? failure->field : QString(), field);
+    }
+
+    // TAN, then the name and PAN question, then the prefix, against the stored companies.
+    void duplicates_data()
+    {
+        QTest::addColumn<Duplicate>("d");
+        const auto row = [](const char *name, const Duplicate &d) { QTest::newRow(name) << d; };
+        const Answer none = Answer::None;
+        row("TAN taken", {0, "MUMA12345B", "ZED", "AAACZ1234C", "ZED", none, V::tanExistsText});
+        row("TAN in lower case", {0, "muma12345b", "ZED", "X", "ZED", none, V::tanExistsText});
+        row("TAN applied for", {0, "TANAPPLIED", "ZED", "X", "ZED", none, ""});
+        row("edit keeps its own TAN", {1, "MUMA12345B", "ZED", "X", "ZED", none, ""});
+        row("edit to another's TAN", {3, "MUMA12345B", "ZED", "X", "ZED", none,
+                                      V::tanExistsText});
+        row("name and PAN held, Yes", {0, "MUMZ12345B", "MEHTA TRADERS", "AAACM1234C", "ZED",
+                                       Answer::Yes, ""});
+        row("name and PAN held, No", {0, "MUMZ12345B", "MEHTA TRADERS", "AAACM1234C", "ZED",
+                                      Answer::No, "declined"});
+        row("with an apostrophe", {0, "MUMZ12345B", "O'NEIL AND SONS", "PANNOTREQD", "ZED",
+                                   Answer::No, "declined"});
+        row("same name, other PAN", {0, "MUMZ12345B", "MEHTA TRADERS", "AAACM9999C", "ZED",
+                                     none, ""});
+        row("the company itself", {1, "MUMA12345B", "MEHTA TRADERS", "AAACM1234C", "MTR", none,
+                                   ""});
+        row("Yes, then the prefix", {0, "MUMZ12345B", "MEHTA TRADERS", "AAACM1234C", "mtr",
+                                     Answer::Yes, V::prefixExistsText});
+        row("edit to another's prefix", {2, "TANAPPLIED", "ZED", "X", "MTR", none,
+                                         V::prefixExistsText});
+    }
+    void duplicates()
+    {
+        QFETCH(Duplicate, d);
+        CompanyEntry entry = changed({{"txtCompId", d.compId}, {"txtTan", d.tan},
+                                      {"txtCompName", d.name}, {"txtPAN", d.pan},
+                                      {"txtPrefix", d.prefix}});
+        entry.isEdit = d.compId != 0;
+        ScriptedMessageBoxes boxes;
+        boxes.answerNext(d.answer);
+        const V::Verdict verdict = V(mastersStore().store()).validate(entry, boxes);
+
+        const Message question{V::nameAndPanExistText, appTitle, MessageIcon::Question,
+                               MessageButtons::YesNo};
+        QCOMPARE(boxes.shown, d.answer == Answer::None ? QList<Message>()
+                                                        : QList<Message>{question});
+        QCOMPARE(verdict.declined, d.refusal == u"declined");
+        QCOMPARE(verdict.refusal ? verdict.refusal->message.text : QString(),
+                 verdict.declined ? QString() : d.refusal);
+        QCOMPARE(verdict.passed(), d.refusal.isEmpty());
+    }
+
+    void leavingFields()
+    {
+        QVERIFY(!V::leavingTan(QString()));
+        QVERIFY(!V::leavingTan(QStringLiteral("MUMA12345B")));
+        QCOMPARE(V::leavingTan(QStringLiteral("MUMA1234")),
+                 (FieldFailure{{V::shortTanText, appTitle, MessageIcon::Critical}, "txtTan"}));
+        QCOMPARE(V::panOnLeaving(QStringLiteral("  ")), QStringLiteral("PANNOTREQD"));
+        QCOMPARE(V::panOnLeaving(QStringLiteral("AAAC")), QStringLiteral("AAAC"));
+        QVERIFY(!V::leavingPan(QStringLiteral("PANNOTREQD")));
+        QCOMPARE(V::leavingPan(QStringLiteral("AAAC"))->message.text, V::shortPanText);
+        QVERIFY(V::leavingDeductorType(QStringLiteral(" ")));
+        QVERIFY(!V::leavingDeductorType(QStringLiteral("K")));
+        for (const char *status : {"C", "o"})
+            QVERIFY(!V::leavingStatus(QLatin1String(status)));
+        for (const char *status : {"", "X", "CO"})
+            QCOMPARE(V::leavingStatus(QLatin1String(status))->message.text, V::statusText);
+    }
 };
 
-// Each check of the save, alone: its text, box and the field that takes the focus.
-void TestCompanyValidation::checkFields_data()
-{
-    QTest::addColumn<QVariantMap>("changes");
-    QTest::addColumn<QString>("text"); // empty: every check passes
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("field");
-
-    const QString invalid = QStringLiteral("Invalid Entry");
-    const QString app = QStringLiteral("Kelvora");
-    const auto row = [](const char *name, const QVariantMap &changes, const QString &text,
-                        const QString &title, const char *field) {
-        QTest::newRow(name) << changes << text << title << QString::fromLatin1(field);
-    };
-
-    row("valid", {}, {}, {}, "");
-    row("1 TAN", {{"txtTan", ""}}, V::enterTanText, invalid, "txtTan");
-    row("1 TAN of blanks", {{"txtTan", "   "}}, V::enterTanText, invalid, "txtTan");
-    row("2 group", {{"cmbGroupName", ""}}, GroupMaster::enterGroupText, invalid, "cmbGroupName");
-    row("3 name", {{"txtCompName", " "}}, V::enterCompanyNameText, invalid, "txtCompName");
-    row("4 deductor type", {{"cmbDeType", ""}}, V::enterDeductorTypeText, invalid, "cmbDeType");
-    row("5 address", {{"txtAddress1", ""}}, V::enterAddressText, invalid, "txtAddress1");
-    row("6 state", {{"cmbState", ""}}, V::enterStateText, invalid, "cmbState");
-    row("7 PIN", {{"txtPincode", ""}}, V::enterPinText, invalid, "txtPincode");
-    row("8 person", {{"txtPersonName", ""}}, V::enterPersonNameText, invalid, "txtPersonName");
-    row("9 designation", {{"txtDesignation", ""}}, V::enterDesignationText, invalid,
-        "txtDesignation");
-    row("10 person's address", {{"txtPAddress1", ""}}, V::enterAddressText, invalid,
-        "txtPAddress1");
-    row("11 person's state", {{"cmbPState", ""}}, V::enterStateText, invalid, "cmbPState");
-    row("12 person's PIN", {{"txtPpincode", ""}}, V::enterPinText, invalid, "txtPpincode");
-    row("13 prefix", {{"txtPrefix", ""}}, V::enterPrefixText, invalid, "txtPrefix");
-    row("14 mail", {{"txtEmail", "accounts.mehta.in"}}, emailErrorOf("accounts.mehta.in"), app,
-        "txtEmail");
-    row("14 mail may be blank", {{"txtEmail", ""}}, {}, {}, "");
-    row("15 person's mail", {{"txtPemail", "raj@mehta"}}, emailErrorOf("raj@mehta"), app,
-        "txtPemail");
-    row("16 group not in the list", {{"txtGrpId", "0"}}, V::properGroupText, app,
-        "cmbGroupName");
-    row("17 state not in the list", {{"txtStID", ""}}, V::stateFromListText, app, "cmbState");
-    for (const char *type : {"S", "E", "H", "N"}) {
-        row(qPrintable(QStringLiteral("18 type %1 without its state").arg(type)),
-            {{"cmbDeType", type}}, V::deductorStateText, app, "cmbDState");
-    }
-    row("18 typed in lower case", {{"cmbDeType", "s"}}, V::deductorStateText, app, "cmbDState");
-    row("18 type E with its state", {{"cmbDeType", "E"}, {"txtDStId", "19"}}, {}, {}, "");
-    for (const char *type : {"A", "D", "G"}) {
-        row(qPrintable(QStringLiteral("19 type %1 without a ministry").arg(type)),
-            {{"cmbDeType", type}, {"txtPAOCode", "P1"}, {"txtDDOCode", "D1"}}, V::ministryText,
-            app, "cmbMinistry");
-    }
-    row("19 type L needs no ministry", {{"cmbDeType", "L"}}, {}, {}, "");
-    row("20 type A without PAO code",
-        {{"cmbDeType", "A"}, {"txtMinistryID", "11"}, {"txtDDOCode", "D1"}}, V::paoCodeText, app,
-        "txtPAOCode");
-    row("21 type A without DDO code",
-        {{"cmbDeType", "A"}, {"txtMinistryID", "11"}, {"txtPAOCode", "P1"}}, V::ddoCodeText, app,
-        "txtDDOCode");
-    row("20 type D needs no PAO code", {{"cmbDeType", "D"}, {"txtMinistryID", "11"}}, {}, {}, "");
-    row("22 Others without its name",
-        {{"cmbDeType", "D"}, {"cmbMinistry", "Others"}, {"txtMinistryID", "99"}},
-        V::otherMinistryText, app, "txtMinistryNameOther");
-    row("22 Others as typed", {{"cmbMinistry", "others"}, {"txtMinistryID", "99"}},
-        V::otherMinistryText, app, "txtMinistryNameOther");
-    row("22 Others with its name",
-        {{"cmbDeType", "D"}, {"cmbMinistry", "Others"}, {"txtMinistryID", "99"},
-         {"txtMinistryNameOther", "BOARD OF TRADE"}},
-        {}, {}, "");
-    row("23 person's state not in the list", {{"txtPStId", "0"}}, V::stateFromListText, app,
-        "cmbPState");
-}
-
-void TestCompanyValidation::checkFields()
-{
-    QFETCH(QVariantMap, changes);
-    QFETCH(QString, text);
-    QFETCH(QString, title);
-    QFETCH(QString, field);
-
-    const std::optional<FieldFailure> failure = V::checkFields(changed(changes));
-    if (text.isEmpty()) {
-        QVERIFY2(!failure, qPrintable(failure ? failure->message.text : QString()));
-        return;
-    }
-    QVERIFY(failure);
-    QCOMPARE(failure->message.text, text);
-    QCOMPARE(failure->message.title, title);
-    QCOMPARE(failure->message.buttons, MessageButtons::Ok);
-    QCOMPARE(failure->field, field);
-}
-
-void TestCompanyValidation::earlierCheckWins_data()
-{
-    QTest::addColumn<QVariantMap>("changes");
-    QTest::addColumn<QString>("field");
-
-    QTest::newRow("TAN before prefix") << QVariantMap{{"txtTan", ""}, {"txtPrefix", ""}}
-                                       << "txtTan";
-    QTest::newRow("group before name") << QVariantMap{{"txtCompName", ""}, {"cmbGroupName", ""}}
-                                       << "cmbGroupName";
-    QTest::newRow("deductor's before person's")
-        << QVariantMap{{"txtPpincode", ""}, {"txtPincode", ""}} << "txtPincode";
-    QTest::newRow("blank before mail") << QVariantMap{{"txtEmail", "x"}, {"txtPrefix", ""}}
-                                       << "txtPrefix";
-    QTest::newRow("mail before group id") << QVariantMap{{"txtGrpId", "0"}, {"txtPemail", "x"}}
-                                          << "txtPemail";
-    QTest::newRow("state id before deductor state")
-        << QVariantMap{{"cmbDeType", "S"}, {"txtStID", "0"}} << "cmbState";
-    QTest::newRow("ministry before PAO code") << QVariantMap{{"cmbDeType", "A"}}
-                                              << "cmbMinistry";
-    QTest::newRow("DDO code before Others")
-        << QVariantMap{{"cmbDeType", "A"}, {"txtMinistryID", "99"}, {"cmbMinistry", "Others"},
-                       {"txtPAOCode", "P1"}}
-        << "txtDDOCode";
-    QTest::newRow("Others before person's state")
-        << QVariantMap{{"cmbMinistry", "Others"}, {"txtPStId", ""}} << "txtMinistryNameOther";
-}
-
-void TestCompanyValidation::earlierCheckWins()
-{
-    QFETCH(QVariantMap, changes);
-    QFETCH(QString, field);
-    const std::optional<FieldFailure> failure = V::checkFields(changed(changes));
-    QVERIFY(failure);
-    QCOMPARE(failure->field, field);
-}
-
-void TestCompanyValidation::tanDuplicates_data()
-{
-    QTest::addColumn<bool>("isEdit");
-    QTest::addColumn<int>("compId");
-    QTest::addColumn<QString>("tan");
-    QTest::addColumn<bool>("refused");
-
-    QTest::newRow("new company, TAN taken") << false << 0 << "MUMA12345B" << true;
-    QTest::newRow("new company, TAN in lower case") << false << 0 << "muma12345b" << true;
-    QTest::newRow("new company, new TAN") << false << 0 << "MUMZ12345B" << false;
-    QTest::newRow("new company, TAN applied for") << false << 0 << "TANAPPLIED" << false;
-    QTest::newRow("edit keeps its own TAN") << true << 1 << "MUMA12345B" << false;
-    QTest::newRow("edit to another's TAN") << true << 3 << "MUMA12345B" << true;
-    QTest::newRow("edit to TAN applied for") << true << 1 << "TANAPPLIED" << false;
-}
-
-void TestCompanyValidation::tanDuplicates()
-{
-    QFETCH(bool, isEdit);
-    QFETCH(int, compId);
-    QFETCH(QString, tan);
-    QFETCH(bool, refused);
-    TestStore data;
-    addCompany(data.store(), 1, 1, QStringLiteral("MUMA12345B"));
-    addCompany(data.store(), 2, 1, QStringLiteral("TANAPPLIED"));
-    addCompany(data.store(), 3, 1, QStringLiteral("TANAPPLIED"));
-
-    CompanyEntry entry = validEntry();
-    entry.isEdit = isEdit;
-    entry.compId = QString::number(compId);
-    entry.tan = tan;
-    ScriptedMessageBoxes boxes;
-    const CompanyValidation::Verdict verdict =
-        CompanyValidation(data.store()).validate(entry, boxes);
-    QCOMPARE(bool(verdict.refusal), refused);
-    QCOMPARE(verdict.passed(), !refused);
-    if (refused) {
-        QCOMPARE(verdict.refusal->message.text, V::tanExistsText);
-        QCOMPARE(verdict.refusal->field, QStringLiteral("txtTan"));
-    }
-    QVERIFY(boxes.shown.isEmpty());
-}
-
-void TestCompanyValidation::nameAndPanWarning_data()
-{
-    QTest::addColumn<bool>("isEdit");
-    QTest::addColumn<int>("compId");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("pan");
-    QTest::addColumn<QString>("prefix");
-    QTest::addColumn<int>("answer"); // 0: no question expected
-    QTest::addColumn<QString>("outcome");
-
-    QTest::newRow("held, Yes") << false << 0 << "MEHTA TRADERS" << "AAACM1234C" << "NEW"
-                               << int(Answer::Yes) << "passed";
-    QTest::newRow("held, No") << false << 0 << "MEHTA TRADERS" << "AAACM1234C" << "NEW"
-                              << int(Answer::No) << "declined";
-    QTest::newRow("held with an apostrophe") << false << 0 << "O'NEIL AND SONS" << "PANNOTREQD"
-                                             << "NEW" << int(Answer::No) << "declined";
-    QTest::newRow("same name, other PAN") << false << 0 << "MEHTA TRADERS" << "AAACM9999C"
-                                          << "NEW" << 0 << "passed";
-    QTest::newRow("the company itself") << true << 1 << "MEHTA TRADERS" << "AAACM1234C" << "MTR"
-                                        << 0 << "passed";
-    QTest::newRow("Yes, then the prefix is taken") << false << 0 << "MEHTA TRADERS"
-                                                   << "AAACM1234C" << "MTR" << int(Answer::Yes)
-                                                   << "prefix";
-}
-
-void TestCompanyValidation::nameAndPanWarning()
-{
-    QFETCH(bool, isEdit);
-    QFETCH(int, compId);
-    QFETCH(QString, name);
-    QFETCH(QString, pan);
-    QFETCH(QString, prefix);
-    QFETCH(int, answer);
-    QFETCH(QString, outcome);
-    TestStore data;
-    addCompany(data.store(), 1, 1, QStringLiteral("MUMA12345B"), QStringLiteral("MEHTA TRADERS"),
-               QStringLiteral("AAACM1234C"), QStringLiteral("MTR"));
-    addCompany(data.store(), 2, 1, QStringLiteral("MUMB12345B"),
-               QStringLiteral("O'NEIL AND SONS"), QStringLiteral("PANNOTREQD"));
-
-    CompanyEntry entry = validEntry();
-    entry.isEdit = isEdit;
-    entry.compId = QString::number(compId);
-    entry.tan = isEdit ? QStringLiteral("MUMA12345B") : QStringLiteral("MUMZ12345B");
-    entry.name = name;
-    entry.pan = pan;
-    entry.filePrefix = prefix;
-    ScriptedMessageBoxes boxes;
-    if (answer)
-        boxes.answerNext(Answer(answer));
-    const CompanyValidation::Verdict verdict =
-        CompanyValidation(data.store()).validate(entry, boxes);
-
-    if (answer) {
-        QCOMPARE(boxes.shown.size(), 1);
-        QCOMPARE(boxes.shown.first().text,
-                 QStringLiteral("Company Name & Pan No. Already Exits.\n"
-                                "Do you want to Continue."));
-        QCOMPARE(boxes.shown.first().buttons, MessageButtons::YesNo);
-    } else {
-        QVERIFY(boxes.shown.isEmpty());
-    }
-    if (outcome == u"passed")
-        QVERIFY(verdict.passed());
-    else if (outcome == u"declined")
-        QVERIFY(verdict.declined && !verdict.refusal);
-    else
-        QCOMPARE(verdict.refusal->message.text, V::prefixExistsText);
-}
-
-void TestCompanyValidation::prefixDuplicates_data()
-{
-    QTest::addColumn<bool>("isEdit");
-    QTest::addColumn<int>("compId");
-    QTest::addColumn<QString>("prefix");
-    QTest::addColumn<bool>("refused");
-
-    QTest::newRow("new company, prefix taken") << false << 0 << "MTR" << true;
-    QTest::newRow("new company, in lower case") << false << 0 << "mtr" << true;
-    QTest::newRow("new company, new prefix") << false << 0 << "ABC" << false;
-    QTest::newRow("edit keeps its own") << true << 1 << "MTR" << false;
-    QTest::newRow("edit to another's") << true << 2 << "MTR" << true;
-}
-
-void TestCompanyValidation::prefixDuplicates()
-{
-    QFETCH(bool, isEdit);
-    QFETCH(int, compId);
-    QFETCH(QString, prefix);
-    QFETCH(bool, refused);
-    TestStore data;
-    addCompany(data.store(), 1, 1, QStringLiteral("MUMA12345B"), QStringLiteral("ONE"),
-               QStringLiteral("PANNOTREQD"), QStringLiteral("MTR"));
-    addCompany(data.store(), 2, 1, QStringLiteral("MUMB12345B"), QStringLiteral("TWO"),
-               QStringLiteral("PANNOTREQD"), QStringLiteral("TWO"));
-
-    CompanyEntry entry = validEntry();
-    entry.isEdit = isEdit;
-    entry.compId = QString::number(compId);
-    entry.filePrefix = prefix;
-    const std::optional<FieldFailure> failure =
-        CompanyValidation(data.store()).checkPrefix(entry);
-    QCOMPARE(bool(failure), refused);
-    if (refused) {
-        QCOMPARE(failure->message.text, V::prefixExistsText);
-        QCOMPARE(failure->field, QStringLiteral("txtPrefix"));
-    }
-}
-
-void TestCompanyValidation::leavingFields()
-{
-    QVERIFY(!V::leavingTan(QString()));
-    QVERIFY(!V::leavingTan(QStringLiteral("MUMA12345B")));
-    const std::optional<FieldFailure> tan = V::leavingTan(QStringLiteral("MUMA1234"));
-    QVERIFY(tan);
-    QCOMPARE(tan->message, Message({"TAN sould be a 10 digit number", "Kelvora",
-                                    MessageIcon::Critical}));
-    QCOMPARE(tan->field, QStringLiteral("txtTan"));
-
-    QCOMPARE(V::panOnLeaving(QStringLiteral("  ")), QStringLiteral("PANNOTREQD"));
-    QCOMPARE(V::panOnLeaving(QStringLiteral("AAAC")), QStringLiteral("AAAC"));
-    QVERIFY(!V::leavingPan(QStringLiteral("PANNOTREQD")));
-    QCOMPARE(V::leavingPan(QStringLiteral("AAAC"))->message.text,
-             QStringLiteral("PAN sould be a 10 digit number"));
-
-    QVERIFY(V::leavingDeductorType(QStringLiteral(" ")));
-    QVERIFY(!V::leavingDeductorType(QStringLiteral("K")));
-    for (const char *status : {"C", "O", "c", "o"})
-        QVERIFY(!V::leavingStatus(QLatin1String(status)));
-    for (const char *status : {"", "X", "CO"}) {
-        QCOMPARE(V::leavingStatus(QLatin1String(status))->message.text,
-                 QStringLiteral("Please Enter 'C' For Central Govt. / 'O' For Others."));
-    }
-}
-
-QTEST_GUILESS_MAIN(TestCompanyValidation)
+KELVORA_TEST_OBJECT(TestCompanyValidation);
 #include "test_companyvalidation.moc"
