@@ -1,44 +1,27 @@
+#include "generationstore.h"
 #include "returnfile/controltotals.h"
+#include "returnfile/generationlog.h"
+#include "support/testsuite.h"
 
-#include "generationdata.h"
-#include "core/formtraits.h"
-#include "support/teststore.h"
-
-#include <QSqlQuery>
 #include <QTest>
 
-using namespace generationdata;
-
 Q_DECLARE_METATYPE(FormKind)
-Q_DECLARE_METATYPE(QList<AnnexureListRow>)
-Q_DECLARE_METATYPE(ChallanControlTotals)
 
 namespace {
 
-AnnexureListRow row(const QString &taxAmount, const QString &tax, const QString &surcharge,
-                    const QString &cess, const QString &total)
+AnnexureListRow same(const char *amount)
 {
-    return {taxAmount, tax, surcharge, cess, total};
-}
-
-Money paise(qint64 value)
-{
-    return Money::fromPaise(value);
+    const QString text = QLatin1String(amount);
+    return {text, text, text, text, text};
 }
 
 /// The five stored totals of a challan, as text, so that 20 and 20.8 are told apart.
-QStringList storedTotals(const DataStore &store, const FormTraits &form, int challanId)
+QString storedTotals(const TestStore &data, FormKind form, int challanId)
 {
-    QSqlQuery query = store.exec(QStringLiteral("SELECT TotTax, TotIncomeTax, TotSurcharge, "
-                                                "TotCess, CtrlTot FROM %1 WHERE ChallnID = ?")
-                                     .arg(form.challanTable),
-                                 {challanId});
-    QStringList values;
-    if (query.next()) {
-        for (int column = 0; column < 5; ++column)
-            values << query.value(column).toString();
-    }
-    return values;
+    return data.text(QStringLiteral("SELECT TotTax||' '||TotIncomeTax||' '||TotSurcharge||' '||"
+                                    "TotCess||' '||CtrlTot FROM %1 WHERE ChallnID = ?")
+                         .arg(formTraits(form).challanTable),
+                     {challanId});
 }
 
 } // namespace
@@ -48,164 +31,96 @@ class TestControlTotals : public QObject
     Q_OBJECT
 
 private slots:
-    void sumChallanRows_data();
-    void sumChallanRows();
-    void updateTouchesOnlyItsChallan_data();
-    void updateTouchesOnlyItsChallan();
-    void emptyListClearsTheTotals();
-    void counts();
+    // Form 24Q rounds to whole rupees after each row, half to even; the others keep the paise.
+    void sumChallanRows_data()
+    {
+        testsuite::columns<FormKind, QList<AnnexureListRow>, QList<qint64>>("kind", "rows",
+                                                                            "paise");
+        const QList<AnnexureListRow> twice104 = {same("10.4"), same("10.4")};
+        const QList<AnnexureListRow> halves = {same("2.5"), same("2.5"), same("3.5")};
+        // Each column feeds its own total; texts are read as typed amounts are.
+        const QList<AnnexureListRow> typed = {{"1,000", "12abc", "", " 5 0", "101.5"},
+                                              {"0.20", "", "x", "", "5"}};
+        const QList<AnnexureListRow> tenths(1000, same("0.10"));
+        using P = QList<qint64>;
+        QTest::newRow("24Q rows") << FormKind::Form24Q << twice104 << P(5, 2000);
+        QTest::newRow("26Q rows") << FormKind::Form26Q << twice104 << P(5, 2080);
+        QTest::newRow("24Q halves") << FormKind::Form24Q << halves << P(5, 800);
+        QTest::newRow("27EQ halves") << FormKind::Form27EQ << halves << P(5, 850);
+        QTest::newRow("26Q typed") << FormKind::Form26Q << typed << P{120, 1200, 0, 5000, 10650};
+        QTest::newRow("24Q typed") << FormKind::Form24Q << typed << P{100, 1200, 0, 5000, 10700};
+        QTest::newRow("26Q a thousand tenths") << FormKind::Form26Q << tenths << P(5, 10000);
+        QTest::newRow("24Q no rows") << FormKind::Form24Q << QList<AnnexureListRow>() << P(5, 0);
+    }
+    void sumChallanRows()
+    {
+        QFETCH(FormKind, kind);
+        QFETCH(QList<AnnexureListRow>, rows);
+        const ChallanControlTotals sums = ::sumChallanRows(formTraits(kind), rows);
+        const QList<qint64> paise = {sums.totTax.paise(), sums.totIncomeTax.paise(),
+                                     sums.totSurcharge.paise(), sums.totCess.paise(),
+                                     sums.ctrlTot.paise()};
+        QTEST(paise, "paise");
+    }
+
+    // The totals go to the challan of that Statement and company only.
+    void storedTotalsOfOneChallan()
+    {
+        const TestStore data(generationStore());
+        const QList<AnnexureListRow> rows = {same("10.4"), same("10.4")};
+        calculateChallanControlTotal(data.store(), formTraits(FormKind::Form24Q), {81, 5, 11},
+                                     rows);
+        calculateChallanControlTotal(data.store(), formTraits(FormKind::Form26Q), {51, 5, 11},
+                                     rows);
+        calculateChallanControlTotal(data.store(), formTraits(FormKind::Form26Q), {52, 6, 11},
+                                     rows);
+        calculateChallanControlTotal(data.store(), formTraits(FormKind::Form26Q), {61, 6, 11},
+                                     rows);
+        QCOMPARE(storedTotals(data, FormKind::Form24Q, 81), QStringLiteral("20 20 20 20 20"));
+        QCOMPARE(storedTotals(data, FormKind::Form26Q, 51),
+                 QStringLiteral("20.8 20.8 20.8 20.8 20.8"));
+        QCOMPARE(storedTotals(data, FormKind::Form26Q, 52), QStringLiteral("0.0 0.0 0.0 0.0 0.0"));
+        QCOMPARE(storedTotals(data, FormKind::Form26Q, 61), QStringLiteral("0.0 0.0 0.0 0.0 0.0"));
+        // An empty list clears them.
+        QCOMPARE(calculateChallanControlTotal(data.store(), formTraits(FormKind::Form26Q),
+                                              {51, 5, 11}, {}),
+                 ChallanControlTotals());
+        QCOMPARE(storedTotals(data, FormKind::Form26Q, 51), QStringLiteral("0.0 0.0 0.0 0.0 0.0"));
+    }
+
+    void counts()
+    {
+        const DataStore &store = generationStore().store();
+        const FormTraits &form26 = formTraits(FormKind::Form26Q);
+        QCOMPARE(totalChallan(store, form26, 5), 2);
+        QCOMPARE(totalDeductee(store, form26, 5), 7); // over all its challans
+        QCOMPARE(totalDeductee(store, form26, 6), 1);
+        QCOMPARE(totalChallan(store, formTraits(FormKind::Form24Q), 5), 1);
+        QCOMPARE(totalDeductee(store, formTraits(FormKind::Form24Q), 5), 1);
+        QCOMPARE(totalChallan(store, form26, 9), 0);
+    }
+
+    void logRows()
+    {
+        const TestStore data;
+        GenerationLogEntry entry{3, 11, "24Q", "  /home/d'souza/eReturns/DSO24QQ4.txt ",
+                                 QDateTime(QDate(2026, 10, 4), QTime(9, 5, 7)), "Q4 ", "202728",
+                                 Money::fromPaise(12345678), Money::fromPaise(123457), 4,
+                                 " D'SOUZA & SONS "};
+        QCOMPARE(insertFileGenerationData(data.store(), entry), 1);
+        QCOMPARE(data.text("SELECT FGId||'|'||GrpID||'|'||CompID||'|'||FormNo||'|'||FileName||'|'"
+                           "||DateOfCreation||'|'||TimeOFCreation||'|'||Periodicity||'|'||"
+                           "AsstYear||'|'||Media||'|'||TotNoOFMedia||'|'||TotAmtPaid||'|'||"
+                           "TotTDS||'|'||NoOFDeductees||'|'||ExistingAssessee||'|'||"
+                           "OfficerCode||'|'||CompanyName FROM FileGenerationLog"),
+                 QStringLiteral("1|3|11|Form -24Q|/home/d'souza/eReturns/DSO24QQ4.txt|"
+                                "2026-10-04|09:05:07|Q4|202728|C|1|123456.78|1234.57|4|N|NA|"
+                                "D'SOUZA & SONS"));
+        // Rows brought over from another store may leave gaps; the next id follows the largest.
+        data.store().exec("UPDATE FileGenerationLog SET FGId = 40");
+        QCOMPARE(insertFileGenerationData(data.store(), entry), 41);
+    }
 };
 
-void TestControlTotals::sumChallanRows_data()
-{
-    QTest::addColumn<FormKind>("kind");
-    QTest::addColumn<QList<AnnexureListRow>>("rows");
-    QTest::addColumn<ChallanControlTotals>("totals");
-
-    const auto same = [](Money amount) {
-        return ChallanControlTotals{amount, amount, amount, amount, amount};
-    };
-    const QList<AnnexureListRow> twice104 = {row("10.4", "10.4", "10.4", "10.4", "10.4"),
-                                             row("10.4", "10.4", "10.4", "10.4", "10.4")};
-
-    QTest::newRow("24Q rounds row by row") << FormKind::Form24Q << twice104 << same(paise(2000));
-    QTest::newRow("26Q keeps the paise") << FormKind::Form26Q << twice104 << same(paise(2080));
-    QTest::newRow("27EQ keeps the paise") << FormKind::Form27EQ << twice104
-                                          << same(paise(2080));
-    QTest::newRow("24Q empty list") << FormKind::Form24Q << QList<AnnexureListRow>()
-                                    << ChallanControlTotals();
-
-    // Each column feeds its own total.
-    const QList<AnnexureListRow> distinct = {row("100", "90", "7", "3", "101.5"),
-                                             row("1", "2", "3", "4", "5")};
-    QTest::newRow("26Q columns") << FormKind::Form26Q << distinct
-                                 << ChallanControlTotals{paise(10100), paise(9200), paise(1000),
-                                                         paise(700), paise(10650)};
-    QTest::newRow("24Q columns") << FormKind::Form24Q << distinct
-                                 << ChallanControlTotals{paise(10100), paise(9200), paise(1000),
-                                                         paise(700), paise(10700)};
-
-    // Half to even after each addition: 2.5 → 2, 2 + 2.5 = 4.5 → 4, 4 + 3.5 = 7.5 → 8.
-    const QList<AnnexureListRow> halves = {row("2.5", "2.5", "2.5", "2.5", "2.5"),
-                                           row("2.5", "2.5", "2.5", "2.5", "2.5"),
-                                           row("3.5", "3.5", "3.5", "3.5", "3.5")};
-    QTest::newRow("24Q halves") << FormKind::Form24Q << halves << same(paise(800));
-    QTest::newRow("26Q halves") << FormKind::Form26Q << halves << same(paise(850));
-
-    // Texts are read as the program reads typed amounts.
-    const QList<AnnexureListRow> typed = {row("1,000", "12abc", "", " 5 0", "0.10"),
-                                          row("0.20", "", "x", "", "0.20")};
-    QTest::newRow("26Q typed texts") << FormKind::Form26Q << typed
-                                     << ChallanControlTotals{paise(120), paise(1200), paise(0),
-                                                             paise(5000), paise(30)};
-    QTest::newRow("24Q typed texts") << FormKind::Form24Q << typed
-                                     << ChallanControlTotals{paise(100), paise(1200), paise(0),
-                                                             paise(5000), paise(0)};
-
-    // Many small amounts stay exact in paise where a floating sum would drift.
-    QList<AnnexureListRow> tenths;
-    for (int i = 0; i < 1000; ++i)
-        tenths << row("0.10", "0.10", "0.10", "0.10", "0.10");
-    QTest::newRow("26Q a thousand tenths") << FormKind::Form26Q << tenths << same(paise(10000));
-}
-
-void TestControlTotals::sumChallanRows()
-{
-    QFETCH(FormKind, kind);
-    QFETCH(QList<AnnexureListRow>, rows);
-    QFETCH(ChallanControlTotals, totals);
-
-    const ChallanControlTotals sums = ::sumChallanRows(formTraits(kind), rows);
-    QCOMPARE(sums.totTax, totals.totTax);
-    QCOMPARE(sums.totIncomeTax, totals.totIncomeTax);
-    QCOMPARE(sums.totSurcharge, totals.totSurcharge);
-    QCOMPARE(sums.totCess, totals.totCess);
-    QCOMPARE(sums.ctrlTot, totals.ctrlTot);
-}
-
-void TestControlTotals::updateTouchesOnlyItsChallan_data()
-{
-    QTest::addColumn<FormKind>("kind");
-    QTest::addColumn<QString>("stored");
-
-    QTest::newRow("24Q") << FormKind::Form24Q << "20";
-    QTest::newRow("26Q") << FormKind::Form26Q << "20.8";
-    QTest::newRow("27EQ") << FormKind::Form27EQ << "20.8";
-}
-
-void TestControlTotals::updateTouchesOnlyItsChallan()
-{
-    QFETCH(FormKind, kind);
-    QFETCH(QString, stored);
-
-    TestStore data;
-    const DataStore &store = data.store();
-    const FormTraits &form = formTraits(kind);
-    addStatement(store, form, 1, 11, QStringLiteral("Q2"), 2, 0);
-    addStatement(store, form, 2, 12, QStringLiteral("Q2"), 1, 0);
-    addChallan(store, form, 5, 1, 11, 1, 100);
-    addChallan(store, form, 6, 1, 11, 2, 100);
-    addChallan(store, form, 7, 2, 12, 1, 100);
-    const QStringList zeros(5, QStringLiteral("0"));
-
-    const QList<AnnexureListRow> rows = {row("10.4", "10.4", "10.4", "10.4", "10.4"),
-                                         row("10.4", "10.4", "10.4", "10.4", "10.4")};
-    calculateChallanControlTotal(store, form, {5, 1, 11}, rows);
-
-    QCOMPARE(storedTotals(store, form, 5), QStringList(5, stored));
-    QCOMPARE(storedTotals(store, form, 6), zeros);
-    QCOMPARE(storedTotals(store, form, 7), zeros);
-
-    // The challan is found by its Statement and company as well as its id.
-    calculateChallanControlTotal(store, form, {6, 2, 11}, rows);
-    calculateChallanControlTotal(store, form, {6, 1, 12}, rows);
-    QCOMPARE(storedTotals(store, form, 6), zeros);
-}
-
-void TestControlTotals::emptyListClearsTheTotals()
-{
-    TestStore data;
-    const DataStore &store = data.store();
-    const FormTraits &form = formTraits(FormKind::Form26Q);
-    addStatement(store, form, 1, 11, QStringLiteral("Q1"), 1, 0);
-    addChallan(store, form, 5, 1, 11, 1, 100);
-    store.exec(QStringLiteral("UPDATE TranChallanE26 SET TotTax = 9, TotIncomeTax = 9, "
-                              "TotSurcharge = 9, TotCess = 9, CtrlTot = 9"));
-
-    const ChallanControlTotals written = calculateChallanControlTotal(store, form, {5, 1, 11}, {});
-
-    QCOMPARE(written, ChallanControlTotals());
-    QCOMPARE(storedTotals(store, form, 5), QStringList(5, QStringLiteral("0")));
-}
-
-void TestControlTotals::counts()
-{
-    TestStore data;
-    const DataStore &store = data.store();
-    const FormTraits &form26 = formTraits(FormKind::Form26Q);
-    const FormTraits &form24 = formTraits(FormKind::Form24Q);
-    addStatement(store, form26, 1, 11, QStringLiteral("Q1"), 2, 3);
-    addStatement(store, form26, 2, 11, QStringLiteral("Q2"), 1, 1);
-    addChallan(store, form26, 5, 1, 11, 1, 100);
-    addChallan(store, form26, 6, 1, 11, 2, 100);
-    addChallan(store, form26, 7, 2, 11, 1, 100);
-    addAnnexureRow(store, form26, 1, 1, 5, 1, 1000, 100);
-    addAnnexureRow(store, form26, 2, 1, 6, 1, 1000, 100);
-    addAnnexureRow(store, form26, 3, 1, 6, 2, 1000, 100);
-    addAnnexureRow(store, form26, 4, 2, 7, 1, 1000, 100);
-    // Another form's rows with the same Statement id are not this Statement's.
-    addChallan(store, form24, 8, 1, 11, 1, 100);
-    addAnnexureRow(store, form24, 9, 1, 8, 1, 1000, 100);
-
-    QCOMPARE(totalChallan(store, form26, 1), 2);
-    QCOMPARE(totalDeductee(store, form26, 1), 3); // over all its challans
-    QCOMPARE(totalChallan(store, form26, 2), 1);
-    QCOMPARE(totalDeductee(store, form26, 2), 1);
-    QCOMPARE(totalChallan(store, form24, 1), 1);
-    QCOMPARE(totalDeductee(store, form24, 1), 1);
-    QCOMPARE(totalChallan(store, form26, 3), 0);
-    QCOMPARE(totalDeductee(store, form26, 3), 0);
-}
-
-QTEST_GUILESS_MAIN(TestControlTotals)
+KELVORA_TEST_OBJECT(TestControlTotals);
 #include "test_controltotals.moc"

@@ -1,27 +1,20 @@
-#include "core/datastore.h"
 #include "core/storeerror.h"
+#include "returnfile/deducteerecord.h"
+#include "returnfile/recordline.h"
 #include "returnfile/returnfileerror.h"
 #include "returnfile/returnfilewriter.h"
+#include "returnfile/salaryrecord.h"
 #include "statementfixtures.h"
-#include "support/teststore.h"
+#include "support/testsuite.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <memory>
-
 namespace {
 
 const QByteArray earlierReturn = "1^FH^NS1^R^01072026^1^D^MUMA12345B^1^Kelvora^^^^^^^^\r\n";
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 QByteArray contentsOf(const QString &path)
 {
@@ -29,17 +22,16 @@ QByteArray contentsOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-ReturnFileSummary writeFixture(DataStore &store, const QString &fixture, const QString &path)
+ReturnFileSummary write(const TestStore &data, const QString &fixture, const QString &path)
 {
-    return writeReturnFile(store, formTraits(statementfixtures::named(fixture).form),
+    return writeReturnFile(data.store(), formTraits(statementfixtures::named(fixture).form),
                            statementfixtures::basicInfoId, path, QDate(2026, 10, 15));
 }
 
 /// The fields of line @p number (from 1) of a written file.
 QList<QByteArray> fieldsOf(const QString &path, int number)
 {
-    const QList<QByteArray> lines = contentsOf(path).split('\n');
-    return lines.value(number - 1).chopped(1).split('^'); // without its CR
+    return contentsOf(path).split('\n').value(number - 1).chopped(1).split('^');
 }
 
 } // namespace
@@ -49,192 +41,168 @@ class TestReturnFileWriter : public QObject
     Q_OBJECT
 
 private slots:
-    void refusals_data();
-    void refusals();
-    void missingFolder();
-    void storeFailureLeavesNoFile();
-    void unknownStatement();
-    void onlyWhatGoesOutIsChecked();
-    void salaryChallanSection_data();
-    void salaryChallanSection();
+    // What the file cannot hold refuses the file: nothing new is left, an earlier file stays.
+    void refusals_data()
+    {
+        // named: column, table and row as the message gives them
+        testsuite::columns<QString, QString, QString, QString>("fixture", "change", "named",
+                                                               "because");
+        const auto row = [](const char *name, const char *fixture, const QString &change,
+                            const char *named, const QString &because) {
+            QTest::newRow(name) << fixture << change << named << because;
+        };
+        row("caret in a deductee's name", "26q_positive",
+            "UPDATE TranDeducteeE26 SET DeducteeName = 'A^B' WHERE DeducteeID = 21",
+            "DeducteeName of TranDeducteeE26 (DeducteeID 21)", "\"^\"");
+        row("euro sign, which Latin-1 has not", "24q_salary",
+            QStringLiteral("UPDATE TranSalaryE24 SET EmpName = 'LATA €' WHERE SalaryId = 2"),
+            "EmpName of TranSalaryE24 (SalaryId 2)", QStringLiteral("\"€\""));
+        row("character beyond two bytes", "27q_grossing_up",
+            QStringLiteral("UPDATE TranDeducteeE27 SET PANRef = 'R😀' WHERE DeducteeID = 23"),
+            "PANRef of TranDeducteeE27 (DeducteeID 23)", QStringLiteral("\"😀\""));
+        row("line break in the remarks", "26q_positive",
+            "UPDATE TranChallanE26 SET Remarks = 'A' || char(13, 10) || 'B' WHERE ChallnID = 12",
+            "Remarks of TranChallanE26 (ChallnID 12)", "line break");
+        row("caret in the company's ministry", "27eq_purchase",
+            "UPDATE mstCompany SET MinistryOther = 'PORT^TRUST'",
+            "MinistryOther of mstCompany (CompID 1)", "\"^\"");
+        row("caret in the last line of the file", "24q_salary",
+            "UPDATE TranSec16E24 SET SectionId = '16^(iii)' WHERE Secid = 5",
+            "SectionId of TranSec16E24 (Secid 5)", "\"^\"");
+        row("date that is not one", "27eq_purchase",
+            "UPDATE TranChallanE27E SET DtTrVoucher = '07/11/2026' WHERE ChallnID = 11",
+            "DtTrVoucher of TranChallanE27E (ChallnID 11)", "not a date");
+    }
+    void refusals()
+    {
+        QFETCH(QString, fixture);
+        QFETCH(QString, change);
+        QFETCH(QString, named);
+        QFETCH(QString, because);
+        TestStore data;
+        statementfixtures::named(fixture).build(data);
+        data.store().exec(change);
+        QTemporaryDir output;
+        const QString fresh = output.filePath("fresh.txt");
+        const QString existing = output.filePath("existing.txt");
+        QFile file(existing);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(earlierReturn));
+        file.close();
+        for (const QString &path : {fresh, existing}) {
+            try {
+                write(data, fixture, path);
+                QFAIL("the return file was written");
+            } catch (const ReturnFileError &error) {
+                QVERIFY2(error.message().contains(named) && error.message().contains(because),
+                         qPrintable(error.message()));
+            }
+        }
+        QCOMPARE(contentsOf(existing), earlierReturn);
+        // Neither the fresh file nor a temporary one is left.
+        QCOMPARE(QDir(output.path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{"existing.txt"});
+    }
 
-private:
-    std::unique_ptr<TestStore> m_salaryStore; ///< shared by the rows of salaryChallanSection
-};
-
-void TestReturnFileWriter::refusals_data()
-{
-    QTest::addColumn<QString>("fixture");
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<QString>("named");   // column, table and row as the message gives them
-    QTest::addColumn<QString>("because");
-
-    QTest::newRow("caret in a deductee's name")
-        << "26q_positive"
-        << "UPDATE TranDeducteeE26 SET DeducteeName = 'KRISHNA^CONSULTANTS' WHERE DeducteeID = 21"
-        << "DeducteeName of TranDeducteeE26 (DeducteeID 21)" << "\"^\"";
-    QTest::newRow("rupee sign in the deductor's name")
-        << "26q_positive"
-        << QStringLiteral("UPDATE TranBasicInfoE26 SET CompName = 'ACME ₹ TRADERS'")
-        << "CompName of TranBasicInfoE26 (BasicIfoID 1)" << QStringLiteral("\"₹\"");
-    QTest::newRow("euro sign, which Latin-1 has not")
-        << "24q_salary"
-        << QStringLiteral("UPDATE TranSalaryE24 SET EmpName = 'LATA €' WHERE SalaryId = 2")
-        << "EmpName of TranSalaryE24 (SalaryId 2)" << QStringLiteral("\"€\"");
-    QTest::newRow("character beyond two bytes")
-        << "27q_grossing_up"
-        << QStringLiteral("UPDATE TranDeducteeE27 SET PANRef = 'R😀' WHERE DeducteeID = 23")
-        << "PANRef of TranDeducteeE27 (DeducteeID 23)" << QStringLiteral("\"😀\"");
-    QTest::newRow("line break in the remarks")
-        << "26q_positive"
-        << "UPDATE TranChallanE26 SET Remarks = 'SECOND' || char(13, 10) || 'QUARTER' "
-           "WHERE ChallnID = 12"
-        << "Remarks of TranChallanE26 (ChallnID 12)" << "line break";
-    QTest::newRow("caret in the company's ministry")
-        << "27eq_purchase" << "UPDATE mstCompany SET MinistryOther = 'PORT^TRUST'"
-        << "MinistryOther of mstCompany (CompID 1)" << "\"^\"";
-    QTest::newRow("caret in the last line of the file")
-        << "24q_salary" << "UPDATE TranSec16E24 SET SectionId = '16^(iii)' WHERE Secid = 5"
-        << "SectionId of TranSec16E24 (Secid 5)" << "\"^\"";
-    QTest::newRow("date that is not one")
-        << "27eq_purchase"
-        << "UPDATE TranChallanE27E SET DtTrVoucher = '07/11/2026' WHERE ChallnID = 11"
-        << "DtTrVoucher of TranChallanE27E (ChallnID 11)" << "not a date";
-}
-
-void TestReturnFileWriter::refusals()
-{
-    QFETCH(QString, fixture);
-    QFETCH(QString, change);
-    QFETCH(QString, named);
-    QFETCH(QString, because);
-
-    TestStore testStore;
-    statementfixtures::named(fixture).build(testStore.store());
-    testStore.store().exec(change);
-    QTemporaryDir output;
-    const QString fresh = output.filePath(QStringLiteral("fresh.txt"));
-    const QString existing = output.filePath(QStringLiteral("existing.txt"));
-    writeFile(existing, earlierReturn);
-
-    for (const QString &path : {fresh, existing}) {
+    void failuresLeaveNoFile()
+    {
+        TestStore data;
+        statementfixtures::named("26q_positive").build(data);
+        QTemporaryDir output;
+        const QString inMissingFolder = output.filePath("eReturns/ACM26QQ2.txt");
         try {
-            writeFixture(testStore.store(), fixture, path);
+            write(data, "26q_positive", inMissingFolder);
             QFAIL("the return file was written");
         } catch (const ReturnFileError &error) {
-            QVERIFY2(error.message().contains(named), qPrintable(error.message()));
-            QVERIFY2(error.message().contains(because), qPrintable(error.message()));
+            QVERIFY2(error.message().contains(inMissingFolder), qPrintable(error.message()));
+        }
+        QVERIFY(!QFileInfo::exists(output.filePath("eReturns")));
+        const QString path = output.filePath("ACM26QQ2.txt");
+        try {
+            writeReturnFile(data.store(), formTraits(FormKind::Form26Q), 7, path, {});
+            QFAIL("the return file was written");
+        } catch (const ReturnFileError &error) {
+            QVERIFY2(error.message().contains("7 in TranBasicInfoE26"),
+                     qPrintable(error.message()));
+        }
+        // The header lines are written by the time the challans' rows are asked for.
+        data.store().exec("DROP TABLE TranDeducteeE26");
+        QVERIFY_THROWS_EXCEPTION(StoreError, write(data, "26q_positive", path));
+        QCOMPARE(QDir(output.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
+    }
+
+    void onlyWhatGoesOutIsChecked()
+    {
+        // A caret past the width that the file keeps of a challan's codes never reaches it.
+        TestStore data;
+        statementfixtures::named("26q_positive").build(data);
+        data.store().exec("UPDATE TranChallanE26 SET TrVoucherNo = '12345^6', BankCode = "
+                          "'0510002^', ChqDDNo = '445566' || char(8377) WHERE ChallnID = 11");
+        const QString path = data.folder() + "/ACM26QQ2.txt";
+        write(data, "26q_positive", path);
+        const QList<QByteArray> challan = fieldsOf(path, 3);
+        QCOMPARE(challan.value(11), QByteArray("12345"));
+        QCOMPARE(challan.value(15), QByteArray("0510002"));
+        QCOMPARE(challan.value(35), QByteArray()); // a book entry has no cheque
+    }
+
+    // A government office's salary challans are under section 92A, any other's under 92B.
+    void salaryChallanSection()
+    {
+        TestStore data;
+        statementfixtures::named("24q_salary").build(data);
+        const QString path = data.folder() + "/ACM24QQ4.txt";
+        const QList<std::pair<QVariant, QByteArray>> types = {
+            {"S", "92A"}, {"N", "92A"}, {"K", "92B"}, {"F", "92B"}, {"a", "92B"},
+            {"", "92B"},  {QVariant(), "92B"}};
+        for (const auto &[type, section] : types) {
+            data.store().exec("UPDATE mstCompany SET DStatus = ?", {type});
+            write(data, "24q_salary", path);
+            QCOMPARE(fieldsOf(path, 2).value(31), type.toByteArray());
+            QCOMPARE(fieldsOf(path, 3).value(20), section);
+            QCOMPARE(fieldsOf(path, 6).value(20), section);
         }
     }
-    QVERIFY(!QFile::exists(fresh));
-    QCOMPARE(contentsOf(existing), earlierReturn);
-    // No temporary file is left beside them either.
-    QCOMPARE(QDir(output.path()).entryList(QDir::Files | QDir::Hidden),
-             QStringList{QStringLiteral("existing.txt")});
-}
 
-void TestReturnFileWriter::missingFolder()
-{
-    TestStore testStore;
-    statementfixtures::named("26q_positive").build(testStore.store());
-    QTemporaryDir output;
-    const QString path = output.filePath(QStringLiteral("eReturns/ACM26QQ2.txt"));
-
-    try {
-        writeFixture(testStore.store(), "26q_positive", path);
-        QFAIL("the return file was written");
-    } catch (const ReturnFileError &error) {
-        QVERIFY2(error.message().contains(path), qPrintable(error.message()));
+    void recordLine()
+    {
+        RecordLine line(12, QStringLiteral("DD"));
+        line.addText(QStringLiteral("  S. NARAYAN & SONS  "))
+            .addText(QStringLiteral("\tTAB\t"))
+            .addBlank(2)
+            .addDate(QDate(2026, 7, 5))
+            .addDate(QDate())
+            .addFlag(true)
+            .addNumber(0)
+            .addAmount(QVariant())
+            .addAmount(2.5)
+            .addRoundedAmount(2.5)
+            .addRoundedAmount(3.5)
+            .addRoundedAmount(2.501)
+            .addAmount(3.456)
+            .addRoundedAmount(-12.5);
+        QCOMPARE(line.toLatin1(), QByteArray("12^DD^S. NARAYAN & SONS^\tTAB\t^^^05072026^^Y^0^^"
+                                             "2.50^2.00^4.00^3.00^3.46^-12.00^"));
+        QCOMPARE(line.fieldCount(), 17);
     }
-    QVERIFY(!QFileInfo::exists(output.filePath(QStringLiteral("eReturns"))));
-}
 
-void TestReturnFileWriter::storeFailureLeavesNoFile()
-{
-    TestStore testStore;
-    statementfixtures::named("26q_positive").build(testStore.store());
-    // The header lines are written by the time the challans' rows are asked for.
-    testStore.store().exec(QStringLiteral("DROP TABLE TranDeducteeE26"));
-    QTemporaryDir output;
-    const QString path = output.filePath(QStringLiteral("ACM26QQ2.txt"));
-    writeFile(path, earlierReturn);
-
-    QVERIFY_THROWS_EXCEPTION(StoreError, writeFixture(testStore.store(), "26q_positive", path));
-    QCOMPARE(contentsOf(path), earlierReturn);
-    QCOMPARE(QDir(output.path()).entryList(QDir::Files | QDir::Hidden),
-             QStringList{QStringLiteral("ACM26QQ2.txt")});
-}
-
-void TestReturnFileWriter::unknownStatement()
-{
-    TestStore testStore;
-    statementfixtures::named("26q_positive").build(testStore.store());
-    QTemporaryDir output;
-    const QString path = output.filePath(QStringLiteral("ACM26QQ2.txt"));
-
-    try {
-        writeReturnFile(testStore.store(), formTraits(FormKind::Form26Q), 7, path, {});
-        QFAIL("the return file was written");
-    } catch (const ReturnFileError &error) {
-        QVERIFY2(error.message().contains(QStringLiteral("7 in TranBasicInfoE26")),
-                 qPrintable(error.message()));
+    void codes()
+    {
+        const QList<std::pair<QVariant, QString>> rates = {
+            {QVariant(), ""},        {10, "10.0000"},        {0.1, "0.1000"},
+            {10.12345, "10.1235"},   {10.12344, "10.1234"},  {0.99995, "1.0000"},
+            {0.1 + 0.2, "0.3000"},   {-1.5, "-1.5000"},      {"7.5", "7.5000"}};
+        for (const auto &[stored, text] : rates)
+            QCOMPARE(RecordLine::rateText(stored), text);
+        const QList<std::pair<QString, QString>> deducteeCodes = {
+            {"01", "1"}, {"2", "2"}, {" 1", "1"}, {"", "0"}, {"AB", "0"}, {"1A", "1"}};
+        for (const auto &[code, text] : deducteeCodes)
+            QCOMPARE(deducteeCodeText(code), text);
+        const QList<std::pair<QVariant, QString>> categories = {
+            {2.0, "G"}, {3, ""}, {-1, ""}, {70000, ""}, {1.5, ""}, {QVariant(), ""}};
+        for (const auto &[index, code] : categories)
+            QCOMPARE(employeeCategoryCode(index), code);
     }
-    QVERIFY(!QFile::exists(path));
-}
+};
 
-void TestReturnFileWriter::onlyWhatGoesOutIsChecked()
-{
-    // A caret past the width that the file keeps of a challan's codes never reaches the file.
-    TestStore testStore;
-    statementfixtures::named("26q_positive").build(testStore.store());
-    testStore.store().exec(QStringLiteral("UPDATE TranChallanE26 SET TrVoucherNo = '12345^6', "
-                                          "BankCode = '0510002^', ChqDDNo = '445566' || "
-                                          "char(8377) WHERE ChallnID = 11"));
-    QTemporaryDir output;
-    const QString path = output.filePath(QStringLiteral("ACM26QQ2.txt"));
-
-    writeFixture(testStore.store(), "26q_positive", path);
-
-    const QList<QByteArray> challan = fieldsOf(path, 3);
-    QCOMPARE(challan.value(11), QByteArray("12345"));
-    QCOMPARE(challan.value(15), QByteArray("0510002"));
-    QCOMPARE(challan.value(35), QByteArray()); // a book entry has no cheque
-}
-
-void TestReturnFileWriter::salaryChallanSection_data()
-{
-    QTest::addColumn<QVariant>("deductorType");
-    QTest::addColumn<QByteArray>("section");
-
-    for (const char *government : {"A", "S", "D", "E", "G", "H", "L", "N"})
-        QTest::newRow(government) << QVariant(government) << QByteArray("92A");
-    for (const char *other : {"K", "M", "P", "T", "J", "B", "Q", "F"})
-        QTest::newRow(other) << QVariant(other) << QByteArray("92B");
-    QTest::newRow("lower case a") << QVariant("a") << QByteArray("92B");
-    QTest::newRow("empty") << QVariant("") << QByteArray("92B");
-    QTest::newRow("null") << QVariant() << QByteArray("92B");
-}
-
-void TestReturnFileWriter::salaryChallanSection()
-{
-    QFETCH(QVariant, deductorType);
-    QFETCH(QByteArray, section);
-
-    if (!m_salaryStore) {
-        m_salaryStore = std::make_unique<TestStore>();
-        statementfixtures::named("24q_salary").build(m_salaryStore->store());
-    }
-    DataStore &store = m_salaryStore->store();
-    store.exec(QStringLiteral("UPDATE mstCompany SET DStatus = ?"), {deductorType});
-    QTemporaryDir output;
-    const QString path = output.filePath(QStringLiteral("ACM24QQ4.txt"));
-
-    writeFixture(store, "24q_salary", path);
-
-    QCOMPARE(fieldsOf(path, 2).value(31), deductorType.toByteArray());
-    QCOMPARE(fieldsOf(path, 3).value(20), section);
-    QCOMPARE(fieldsOf(path, 6).value(20), section);
-}
-
-QTEST_GUILESS_MAIN(TestReturnFileWriter)
+KELVORA_TEST_OBJECT(TestReturnFileWriter);
 #include "test_returnfilewriter.moc"
