@@ -2,7 +2,6 @@
 #include "support/testsuite.h"
 
 #include <QHash>
-#include <QTest>
 
 namespace {
 

@@ -1,7 +1,6 @@
 #include "core/fieldrules.h"
 #include "support/testsuite.h"
 
-#include <QTest>
 
 using namespace fieldrules;
 

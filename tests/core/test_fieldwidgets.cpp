@@ -12,7 +12,6 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QVBoxLayout>
 
 using keyfilters::Rule;

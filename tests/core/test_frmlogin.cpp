@@ -10,7 +10,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTreeWidget>
 
 Q_DECLARE_METATYPE(CompanySelection::Outcome)

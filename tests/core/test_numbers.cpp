@@ -3,7 +3,6 @@
 #include "core/wholerupeesum.h"
 #include "support/testsuite.h"
 
-#include <QTest>
 
 #include <cmath>
 #include <limits>

@@ -3,7 +3,6 @@
 #include "core/storeerror.h"
 #include "support/testsuite.h"
 
-#include <QTest>
 
 using namespace records;
 

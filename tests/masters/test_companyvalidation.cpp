@@ -5,7 +5,6 @@
 #include "support/scriptedmessageboxes.h"
 #include "support/testsuite.h"
 
-#include <QTest>
 
 using V = CompanyValidation;
 

@@ -2,7 +2,6 @@
 #include "masters/groupmaster.h"
 #include "support/testsuite.h"
 
-#include <QTest>
 
 class TestGroupMaster : public QObject
 {

@@ -1,7 +1,6 @@
 #include "parties.h"
 #include "support/testsuite.h"
 
-#include <QTest>
 
 Q_DECLARE_METATYPE(FormKind)
 

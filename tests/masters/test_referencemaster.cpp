@@ -4,7 +4,6 @@
 #include "support/testsuite.h"
 
 #include <QHeaderView>
-#include <QTest>
 #include <QTreeWidget>
 
 using Kind = ReferenceMaster::Kind;

@@ -3,7 +3,6 @@
 #include "returnfile/generationlog.h"
 #include "support/testsuite.h"
 
-#include <QTest>
 
 Q_DECLARE_METATYPE(FormKind)
 

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 Q_DECLARE_METATYPE(Answer)
 Q_DECLARE_METATYPE(GenerationOutcome)

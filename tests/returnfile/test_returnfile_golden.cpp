@@ -3,7 +3,6 @@
 #include "support/testsuite.h"
 
 #include <QFile>
-#include <QTest>
 
 namespace {
 
