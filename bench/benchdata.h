@@ -32,11 +32,16 @@ private:
     QSqlQuery m_query;
 };
 
-/// Answers every box with Ok, and every question with No.
+/// Answers every box with Ok, and every question with No; keeps what was said.
 class QuietBoxes : public MessageBoxes
 {
 public:
-    Answer show(const Message &) override { return Answer::Ok; }
+    Answer show(const Message &message) override
+    {
+        shown << message.text;
+        return Answer::Ok;
+    }
+    QStringList shown;
 };
 
 /// A fresh store of the financial year 2026-27 in the folder, upgraded as a start leaves it.

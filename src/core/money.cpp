@@ -81,6 +81,14 @@ Money Money::fromStored(const QVariant &value)
         return {};
     if (const std::optional<qint64> rupees = wholeRupees(value))
         return fromRupees(*rupees);
+    // Most amounts carry whole paise: a hundredfold that is a whole number needs no decimal
+    // text. Only a rest beyond the paise (2.675) is decided on the number's decimal digits.
+    if (value.typeId() == QMetaType::Double) {
+        const double hundredfold = value.toDouble() * 100;
+        const double nearest = std::nearbyint(hundredfold);
+        if (std::abs(hundredfold - nearest) < 1e-6 && std::abs(nearest) < 1e15)
+            return Money(static_cast<qint64>(nearest));
+    }
     return Money(paiseOfDecimal(decimalText(value)));
 }
 

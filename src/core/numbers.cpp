@@ -6,8 +6,48 @@
 
 namespace numbers {
 
+namespace {
+
+/// A plain decimal ("-1234.50", "7") read at once: the amounts of the lists and the stored
+/// values shown as text are all of this form, and a screen reads many thousands of them. Up to
+/// fifteen digits are a whole number that one division by a power of ten rounds correctly.
+bool readPlainDecimal(const QString &text, double &value)
+{
+    static constexpr double powers[] = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                        1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const qsizetype size = text.size();
+    if (size == 0 || size > 17)
+        return false;
+    qint64 digits = 0;
+    int count = 0;
+    int decimals = -1;
+    for (qsizetype i = text.at(0) == u'-' ? 1 : 0; i < size; ++i) {
+        const char16_t ch = text.at(i).unicode();
+        if (ch >= u'0' && ch <= u'9') {
+            digits = digits * 10 + (ch - u'0');
+            ++count;
+            if (decimals >= 0)
+                ++decimals;
+        } else if (ch == u'.' && decimals < 0) {
+            decimals = 0;
+        } else {
+            return false;
+        }
+    }
+    if (count == 0 || count > 15)
+        return false;
+    value = static_cast<double>(digits) / powers[decimals < 0 ? 0 : decimals];
+    if (text.at(0) == u'-')
+        value = -value;
+    return true;
+}
+
+} // namespace
+
 double val(const QString &text)
 {
+    if (double plain = 0; readPlainDecimal(text, plain))
+        return plain;
     QString number;
     bool seenDigit = false;
     bool seenPoint = false;

@@ -31,76 +31,127 @@ AnnexureRecords::AnnexureRecords(const DataStore &store, const FormTraits &form)
 {
 }
 
+namespace {
+
+/// What the list shows of a row, in this order; the rest of a row is read when it is chosen.
+const QString listedColumns = QStringLiteral(
+    "%1, SrlNo, %2, PAN, AmtOfPayment, PaymentDt, TaxAmount, NonDeductionflg, Tax, Surcharge, "
+    "Cess, Total");
+
+} // namespace
+
 QList<AnnexureEntry> AnnexureRecords::load(const ChallanRowsKey &key) const
 {
-    QSqlQuery query = m_store.exec(QStringLiteral("SELECT * FROM %1 WHERE CompID = ? AND BasicIfoID = ? "
-                                                  "AND ChallanId = ? ORDER BY %2")
-                                       .arg(m_form.annexureTable, m_form.annexureKey),
+    QString columns = listedColumns.arg(m_form.annexureKey, m_form.partyNameColumn);
+    if (!m_form.salaryLayout)
+        columns += QStringLiteral(", DeducteeCode, Rate");
+    QSqlQuery query = m_store.exec(QStringLiteral("SELECT %1 FROM %2 WHERE CompID = ? "
+                                                  "AND BasicIfoID = ? AND ChallanId = ? "
+                                                  "ORDER BY %3")
+                                       .arg(columns, m_form.annexureTable, m_form.annexureKey),
                                    {key.statement.compId, key.statement.basicInfoId,
                                     key.challanId});
-    const QSqlRecord record = query.record();
-    const auto column = [&record](const char *name) { return record.indexOf(name); };
-    const int id = record.indexOf(m_form.annexureKey);
-    const int srl = column("SrlNo"), name = record.indexOf(m_form.partyNameColumn);
-    const int pan = column("PAN"), panRef = column("PANRef"), amount = column("AmtOfPayment");
-    const int paid = column("PaymentDt"), deposited = column("TaxAmount");
-    const int flag = column("NonDeductionflg"), tax = column("Tax");
-    const int surcharge = column("Surcharge"), cess = column("Cess"), total = column("Total");
     QList<AnnexureEntry> rows;
     while (query.next()) {
         AnnexureEntry entry;
-        entry.rowId = nullToText(query.value(id));
-        entry.srlNo = nullToText(query.value(srl));
-        entry.partyName = nullToText(query.value(name));
-        entry.pan = nullToText(query.value(pan));
-        entry.panRef = nullToText(query.value(panRef));
-        entry.amount = amountText(query.value(amount));
-        entry.date = records::dateOf(query.value(paid));
-        entry.deposited = amountText(query.value(deposited));
-        entry.flag = query.value(flag).toString();
-        entry.tax = amountText(query.value(tax));
-        entry.surcharge = amountText(query.value(surcharge));
-        entry.cess = amountText(query.value(cess));
-        entry.total = amountText(query.value(total));
-        if (m_form.salaryLayout) {
-            entry.partyNo = nullToText(query.value(column("EmpNo")));
-            entry.designation = nullToText(query.value(column("Designation")));
-            entry.fromDate = records::dateOf(query.value(column("FromDate")));
-            entry.toDate = records::dateOf(query.value(column("ToDate")));
-        } else {
-            entry.partyNo = nullToText(query.value(column("DeducteeNo")));
-            entry.deducteeCode = nullToText(query.value(column("DeducteeCode")));
-            QString *addresses[] = {&entry.address1, &entry.address2, &entry.address3,
-                                    &entry.address4, &entry.address5};
-            for (int line = 0; line < 5; ++line) {
-                *addresses[line] = nullToText(
-                    query.value(record.indexOf(QStringLiteral("Address%1").arg(line + 1))));
-            }
-            entry.state = nullToText(query.value(column("State")));
-            entry.stateCode = nullToText(query.value(column("StateCode")));
-            entry.pin = query.value(column("PIN")).toString();
-            entry.rate = annexurerules::rateText(
-                query.value(column("Rate")).toDouble(), m_form.kind == FormKind::Form26Q);
+        entry.rowId = query.value(0).toString();
+        entry.srlNo = query.value(1).toString();
+        entry.partyName = nullToText(query.value(2));
+        entry.pan = nullToText(query.value(3));
+        entry.amount = amountText(query.value(4));
+        entry.date = records::dateOf(query.value(5));
+        entry.deposited = amountText(query.value(6));
+        entry.flag = query.value(7).toString();
+        entry.tax = amountText(query.value(8));
+        entry.surcharge = amountText(query.value(9));
+        entry.cess = amountText(query.value(10));
+        entry.total = amountText(query.value(11));
+        if (!m_form.salaryLayout) {
+            entry.deducteeCode = nullToText(query.value(12));
+            entry.rate = annexurerules::rateText(query.value(13).toDouble(),
+                                                 m_form.kind == FormKind::Form26Q);
         }
-        if (!m_form.grossingUpColumn.isEmpty())
-            entry.grossingUp = nullToText(query.value(record.indexOf(m_form.grossingUpColumn)));
-        if (!m_form.purchaseColumn.isEmpty())
-            entry.purchaseValue = amountText(query.value(record.indexOf(m_form.purchaseColumn)));
         rows.append(entry);
     }
     return rows;
 }
 
+AnnexureEntry AnnexureRecords::read(int rowId, const ChallanRowsKey &key) const
+{
+    QSqlQuery query = m_store.exec(QStringLiteral("SELECT * FROM %1 WHERE %2 = ? AND CompID = ? "
+                                                  "AND BasicIfoID = ? AND ChallanId = ?")
+                                       .arg(m_form.annexureTable, m_form.annexureKey),
+                                   {rowId, key.statement.compId, key.statement.basicInfoId,
+                                    key.challanId});
+    AnnexureEntry entry;
+    if (!query.next())
+        return entry;
+    const QSqlRecord row = query.record();
+    const auto text = [&row](const QString &column) { return nullToText(row.value(column)); };
+    entry.rowId = text(m_form.annexureKey);
+    entry.srlNo = text(QStringLiteral("SrlNo"));
+    entry.partyName = text(m_form.partyNameColumn);
+    entry.pan = text(QStringLiteral("PAN"));
+    entry.panRef = text(QStringLiteral("PANRef"));
+    entry.amount = amountText(row.value(QStringLiteral("AmtOfPayment")));
+    entry.date = records::dateOf(row.value(QStringLiteral("PaymentDt")));
+    entry.deposited = amountText(row.value(QStringLiteral("TaxAmount")));
+    entry.flag = row.value(QStringLiteral("NonDeductionflg")).toString();
+    entry.tax = amountText(row.value(QStringLiteral("Tax")));
+    entry.surcharge = amountText(row.value(QStringLiteral("Surcharge")));
+    entry.cess = amountText(row.value(QStringLiteral("Cess")));
+    entry.total = amountText(row.value(QStringLiteral("Total")));
+    if (m_form.salaryLayout) {
+        entry.partyNo = text(QStringLiteral("EmpNo"));
+        entry.designation = text(QStringLiteral("Designation"));
+        entry.fromDate = records::dateOf(row.value(QStringLiteral("FromDate")));
+        entry.toDate = records::dateOf(row.value(QStringLiteral("ToDate")));
+        return entry;
+    }
+    entry.partyNo = text(QStringLiteral("DeducteeNo"));
+    entry.deducteeCode = text(QStringLiteral("DeducteeCode"));
+    QString *addresses[] = {&entry.address1, &entry.address2, &entry.address3, &entry.address4,
+                            &entry.address5};
+    for (int line = 0; line < 5; ++line)
+        *addresses[line] = text(QStringLiteral("Address%1").arg(line + 1));
+    entry.state = text(QStringLiteral("State"));
+    entry.stateCode = text(QStringLiteral("StateCode"));
+    entry.pin = row.value(QStringLiteral("PIN")).toString();
+    entry.rate = annexurerules::rateText(row.value(QStringLiteral("Rate")).toDouble(), false);
+    if (!m_form.grossingUpColumn.isEmpty())
+        entry.grossingUp = text(m_form.grossingUpColumn);
+    if (!m_form.purchaseColumn.isEmpty())
+        entry.purchaseValue = amountText(row.value(m_form.purchaseColumn));
+    return entry;
+}
+
+QVariant AnnexureRecords::amount(const QString &column, const QString &text) const
+{
+    const double number = numbers::val(text);
+    // Whole-number columns take an amount as the store always converted it: half to even.
+    if (schema::isWholeNumber(m_form.annexureTable, column))
+        return static_cast<qint64>(std::nearbyint(number));
+    return number;
+}
+
+AnnexureEntry AnnexureRecords::asListed(const AnnexureEntry &entry) const
+{
+    AnnexureEntry listed = entry;
+    const std::pair<const char *, QString AnnexureEntry::*> amounts[] = {
+        {"AmtOfPayment", &AnnexureEntry::amount}, {"TaxAmount", &AnnexureEntry::deposited},
+        {"Tax", &AnnexureEntry::tax},             {"Surcharge", &AnnexureEntry::surcharge},
+        {"Cess", &AnnexureEntry::cess},           {"Total", &AnnexureEntry::total}};
+    for (const auto &[column, member] : amounts)
+        listed.*member = amountText(amount(QLatin1String(column), entry.*member));
+    if (!m_form.salaryLayout)
+        listed.rate = annexurerules::rateText(numbers::val(entry.rate),
+                                              m_form.kind == FormKind::Form26Q);
+    return listed;
+}
+
 QList<QPair<QString, QVariant>> AnnexureRecords::values(const AnnexureEntry &entry,
                                                         const ChallanEntry &challan) const
 {
-    const auto amount = [this](const char *column, const QString &text) -> QVariant {
-        const double number = numbers::val(text);
-        // Whole-number columns take an amount as the store always converted it: half to even.
-        if (schema::isWholeNumber(m_form.annexureTable, QLatin1String(column)))
-            return static_cast<qint64>(std::nearbyint(number));
-        return number;
-    };
     QList<QPair<QString, QVariant>> columns = {
         {"SrlNo", static_cast<qint64>(numbers::val(entry.srlNo))},
         {"PAN", escapeText(entry.pan)},

@@ -27,7 +27,10 @@ class AnnexureRecords
 public:
     AnnexureRecords(const DataStore &store, const FormTraits &form);
 
+    /// The rows as the list shows them: the columns it needs, in the order of their numbers.
     QList<AnnexureEntry> load(const ChallanRowsKey &key) const;
+    /// One row whole, for changing it; an empty entry when it is gone.
+    AnnexureEntry read(int rowId, const ChallanRowsKey &key) const;
     /// A new row under the challan; its number goes into the entry.
     void insert(AnnexureEntry &entry, const ChallanEntry &challan,
                 const ChallanRowsKey &key) const;
@@ -35,7 +38,13 @@ public:
                 const ChallanRowsKey &key) const;
     void remove(int rowId, const ChallanRowsKey &key) const;
 
+    /// A saved row as load() would read it back: amounts as the store keeps them (whole rupees
+    /// in whole-number columns) and as the list shows them.
+    AnnexureEntry asListed(const AnnexureEntry &entry) const;
+
 private:
+    /// An amount as the column stores it.
+    QVariant amount(const QString &column, const QString &text) const;
     /// The columns a row writes besides its keys, with their values.
     QList<QPair<QString, QVariant>> values(const AnnexureEntry &entry,
                                            const ChallanEntry &challan) const;

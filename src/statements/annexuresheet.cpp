@@ -276,22 +276,29 @@ bool AnnexureSheet::save()
 
     const ChallanEntry none;
     const ChallanEntry &chosen = challan() ? *challan() : none;
-    QList<AnnexureEntry> rows;
+    // The list takes the row as the store now holds it; the challan's totals are summed from
+    // the list, so that a challan of many thousand rows is not read again for one row.
+    const int listed = m_rows.find(&AnnexureEntry::rowId, int(numbers::val(m_entry.rowId)));
+    AnnexureEntry saved;
     try {
         Transaction transaction(m_statement.session().store);
-        if (m_rows.find(&AnnexureEntry::rowId, int(numbers::val(m_entry.rowId))) >= 0)
+        if (listed >= 0)
             m_records.update(m_entry, chosen, key());
         else
             m_records.insert(m_entry, chosen, key());
-        rows = m_records.load(key());
-        writeControlTotals(m_challanId, rows);
+        saved = m_records.asListed(m_entry);
+        writeControlTotals(m_challanId, listed, &saved);
         transaction.commit();
     } catch (const StoreError &error) {
         return refuse(cannotSaveText + u'\n' + error.description(), {});
     } catch (const std::range_error &error) {
         return refuse(cannotSaveText + u'\n' + QString::fromUtf8(error.what()), {});
     }
-    showRows(std::move(rows));
+    if (listed >= 0)
+        m_rows.replaceRow(listed, saved);
+    else
+        m_rows.appendRow(saved);
+    rowsChanged();
     reloadChallans();
     clearPartyFields();
     newRow();
@@ -303,7 +310,12 @@ void AnnexureSheet::loadRow(int row)
 {
     if (row < 0 || row >= m_rows.rowCount())
         return;
-    m_entry = m_rows.row(row);
+    try {
+        m_entry = m_records.read(int(numbers::val(m_rows.row(row).rowId)), key());
+    } catch (const StoreError &error) {
+        m_statement.reportStoreError(error);
+        return;
+    }
     if (!m_statement.form().salaryLayout)
         stateChosen();
     m_editingRow = true;
@@ -318,19 +330,18 @@ void AnnexureSheet::deleteRow(int row)
         m_statement.requestFocus(QStringLiteral("lstvDedt"));
         return;
     }
-    QList<AnnexureEntry> rows;
     try {
         Transaction transaction(m_statement.session().store);
         m_records.remove(int(numbers::val(m_rows.row(row).rowId)), key());
-        rows = m_records.load(key());
-        writeControlTotals(m_challanId, rows);
+        writeControlTotals(m_challanId, row, nullptr);
         transaction.commit();
     } catch (const StoreError &error) {
         m_statement.reportStoreError(error);
         return;
     }
     // The rows left keep their serial numbers: only challans are numbered anew.
-    showRows(std::move(rows));
+    m_rows.takeRow(row);
+    rowsChanged();
     reloadChallans();
     newRow();
 }
@@ -389,11 +400,16 @@ void AnnexureSheet::reloadChallans()
 
 void AnnexureSheet::showRows(QList<AnnexureEntry> rows)
 {
+    m_rows.setRows(std::move(rows));
+    rowsChanged();
+}
+
+void AnnexureSheet::rowsChanged()
+{
     Money sum;
-    for (const AnnexureEntry &row : rows)
+    for (const AnnexureEntry &row : m_rows.rows())
         sum += Money::fromText(row.deposited);
     m_depositedSum = sum.toText();
-    m_rows.setRows(std::move(rows));
     try {
         m_statement.info().noDeductee = QString::number(m_statement.storedAnnexureRows());
     } catch (const StoreError &error) {
@@ -426,11 +442,35 @@ void AnnexureSheet::newRow()
 
 void AnnexureSheet::writeControlTotals(int challanId, const QList<AnnexureEntry> &rows) const
 {
+    writeControlTotals(challanId, rows, -1, nullptr);
+}
+
+void AnnexureSheet::writeControlTotals(int challanId, int changed,
+                                       const AnnexureEntry *replacement) const
+{
+    writeControlTotals(challanId, m_rows.rows(), changed, replacement);
+}
+
+void AnnexureSheet::writeControlTotals(int challanId, const QList<AnnexureEntry> &rows,
+                                       int changed, const AnnexureEntry *replacement) const
+{
     if (challanId == 0)
         return;
+    // The rows as they are about to become: the changed one replaced, added (at -1), or taken
+    // out when there is no replacement.
+    const auto amountsOf = [](const AnnexureEntry &row) {
+        return AnnexureListRow{row.deposited, row.tax, row.surcharge, row.cess, row.total};
+    };
     QList<AnnexureListRow> amounts;
-    for (const AnnexureEntry &row : rows)
-        amounts.append({row.deposited, row.tax, row.surcharge, row.cess, row.total});
+    amounts.reserve(rows.size() + 1);
+    for (int index = 0; index < rows.size(); ++index) {
+        if (index != changed)
+            amounts.append(amountsOf(rows.at(index)));
+        else if (replacement)
+            amounts.append(amountsOf(*replacement));
+    }
+    if (changed < 0 && replacement)
+        amounts.append(amountsOf(*replacement));
     calculateChallanControlTotal(m_statement.session().store, m_statement.form(),
                                  {challanId, m_statement.basicInfoId(), m_statement.compId()},
                                  amounts);

@@ -87,10 +87,17 @@ private:
     ChallanRowsKey key() const;
     void reloadChallans();
     void showRows(QList<AnnexureEntry> rows);
+    /// The deposited sum and the Statement's count after the list changed.
+    void rowsChanged();
     void clearPartyFields();
     void newRow();
     /// Writes a challan's control totals from the rows it now has; none without a challan.
     void writeControlTotals(int challanId, const QList<AnnexureEntry> &rows) const;
+    /// The same for the list with row @p changed replaced (or added, for -1) by
+    /// @p replacement, or taken out when there is none.
+    void writeControlTotals(int challanId, int changed, const AnnexureEntry *replacement) const;
+    void writeControlTotals(int challanId, const QList<AnnexureEntry> &rows, int changed,
+                            const AnnexureEntry *replacement) const;
     /// The first refusal of a save before its date and amounts are looked at.
     std::optional<FieldFailure> partyFailure() const;
     bool allocationExceeded() const;

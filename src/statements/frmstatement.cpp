@@ -4,8 +4,11 @@
 #include "core/messageboxes.h"
 #include "core/screenroutines.h"
 #include "core/session.h"
+#include "core/storeerror.h"
 #include "statements/annexurepanel.h"
 #include "statements/basicinfopanel.h"
+#include "statements/generationframe.h"
+#include "statements/salarypanel.h"
 #include "statements/challanpanel.h"
 
 #include <QCloseEvent>
@@ -42,14 +45,14 @@ FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxe
       m_challan(new ChallanPanel(m_sheet, m_challans, boxes, this)),
       m_panels(new QStackedWidget(this)),
       m_annexure(new AnnexurePanel(m_sheet, m_annexureRows, boxes, this)),
-      m_salary(new QWidget(this)),
+      m_salary(new SalaryPanel(m_sheet, boxes, this)),
+      m_generation(new GenerationFrame(m_sheet, boxes, this)),
       m_formCaption(new QLabel(QStringLiteral("     Form ") + form.formType, this)),
       m_companyName(new QLabel(this)),
       m_headCaption(new QLabel(this))
 {
     setObjectName(form.screenName);
     setWindowTitle(QStringLiteral("Form ") + form.formType);
-    m_salary->setObjectName(QStringLiteral("pctEmp"));
     m_formCaption->setObjectName(QStringLiteral("lblFormCaption"));
     m_companyName->setObjectName(QStringLiteral("lblCompanyName"));
     m_headCaption->setObjectName(QStringLiteral("lblHeadeCaption"));
@@ -63,6 +66,7 @@ FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxe
     m_panels->addWidget(m_challan);
     m_panels->addWidget(m_annexure);
     m_panels->addWidget(m_salary);
+    m_panels->addWidget(m_generation);
     buildButtons();
     layOut();
 
@@ -70,6 +74,11 @@ FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxe
         if (m_panelButtons[indexOf(Panel::Challan)]->isEnabled())
             m_panelButtons[indexOf(Panel::Challan)]->click();
     });
+    connect(m_generation, &GenerationFrame::hideAsked, this, [this] { showGenerationFrame(false); });
+    connect(m_generation, &GenerationFrame::coverFormAsked, this, [this] {
+        notAvailable(QStringLiteral("The cover form of the return"));
+    });
+    m_generation->setListedRows([this] { return m_annexureRows.rows().rowCount(); });
     connect(m_challan, &ChallanPanel::annexureAsked, this, [this] {
         if (m_panelButtons[indexOf(Panel::Annexure)]->isEnabled())
             m_panelButtons[indexOf(Panel::Annexure)]->click();
@@ -94,8 +103,7 @@ void FrmStatement::buildButtons()
     m_panelButtons[indexOf(Panel::Salary)]->setVisible(form.hasSalaryDetail);
     m_makeFile = screenroutines::commandButton(QStringLiteral("&Generate File"),
                                                QStringLiteral("CmdMakeFile"), this);
-    connect(m_makeFile, &QPushButton::clicked, this,
-            [this] { notAvailable(QStringLiteral("Generating the file from this screen")); });
+    connect(m_makeFile, &QPushButton::clicked, this, &FrmStatement::makeFile);
 
     const QString master = form.hasSalaryDetail ? QStringLiteral("&Employee Master")
                                                 : QStringLiteral("D&eductee Master");
@@ -146,6 +154,9 @@ void FrmStatement::showEvent(QShowEvent *event)
     // Only the first activation loads: coming back from another screen reloads nothing.
     m_opened = true;
     m_sheet.open();
+    // The challans of a stored Statement are listed at once: generation counts them.
+    if (m_sheet.basicInfoId() != 0)
+        m_challans.reload();
     m_basicInfo->showInfo();
     showAll();
 }
@@ -153,7 +164,7 @@ void FrmStatement::showEvent(QShowEvent *event)
 void FrmStatement::closeEvent(QCloseEvent *event)
 {
     if (!m_noPrompt) {
-        m_basicInfo->readInfo();
+        syncBasicInfo();
         if (!m_sheet.mayClose()) {
             event->ignore();
             showAll();
@@ -166,7 +177,7 @@ void FrmStatement::closeEvent(QCloseEvent *event)
 
 void FrmStatement::command(int index)
 {
-    m_basicInfo->readInfo();
+    syncBasicInfo();
     switch (index) {
     case 0:
         m_sheet.operation().addRecord();
@@ -197,11 +208,7 @@ void FrmStatement::command(int index)
 
 void FrmStatement::showPanel(Panel panel)
 {
-    if (panel == Panel::Salary) {
-        notAvailable(QStringLiteral("The Salary Detail panel"));
-        return;
-    }
-    m_basicInfo->readInfo();
+    syncBasicInfo();
     m_sheet.showPanel(panel);
     // The panel shows before it opens, so that its first field can take the focus.
     m_panels->setCurrentIndex(indexOf(m_sheet.panel()));
@@ -209,6 +216,8 @@ void FrmStatement::showPanel(Panel panel)
         m_challan->open();
     else if (panel == Panel::Annexure)
         m_annexure->open();
+    else if (panel == Panel::Salary)
+        m_salary->open();
     else
         m_basicInfo->showInfo();
     showAll();
@@ -251,6 +260,69 @@ void FrmStatement::showFocus()
         return;
     if (auto *field = findChild<QWidget *>(focus))
         field->setFocus(Qt::OtherFocusReason);
+}
+
+void FrmStatement::syncBasicInfo()
+{
+    // The panel in front has the user's last word; the other panels change the counts only
+    // through the sheet.
+    if (m_panels->currentWidget() == m_basicInfo)
+        m_basicInfo->readInfo();
+    else
+        m_basicInfo->showInfo();
+}
+
+void FrmStatement::makeFile()
+{
+    syncBasicInfo();
+    const BasicInfo &info = m_sheet.info();
+    GenerationRequest request;
+    request.groupId = m_sheet.session().curGroupId;
+    request.compId = m_sheet.compId();
+    request.quarter = m_sheet.session().curQuarter;
+    request.basicInfoId = info.basicInfoId;
+    request.declaredDeductees = info.noDeductee;
+    request.declaredChallans = info.noChallan;
+    request.listedAnnexureRows = m_annexureRows.rows().rowCount();
+    request.listedChallans = m_challans.list().rowCount();
+    const auto save = [this] {
+        // What stands on the screen is saved first, as the Save button saves it.
+        const bool saved = m_sheet.save();
+        m_basicInfo->showInfo();
+        showAll();
+        return saved;
+    };
+    GenerationPreparation preparation;
+    try {
+        preparation =
+            GenerationFlow(m_sheet.session().store, m_sheet.form()).prepare(request, save);
+    } catch (const StoreError &error) {
+        m_sheet.reportStoreError(error);
+        return;
+    }
+    if (preparation.failure) {
+        m_boxes.show(preparation.failure->message);
+        if (auto *field = findChild<QWidget *>(preparation.failure->field))
+            field->setFocus();
+        return;
+    }
+    if (!preparation.panel)
+        return;
+    m_generation->showPanel(*preparation.panel, QDateTime::currentDateTime(),
+                            m_sheet.storedChallans() > 0);
+    showGenerationFrame(true);
+}
+
+void FrmStatement::showGenerationFrame(bool shown)
+{
+    for (QPushButton *button : m_cmd)
+        button->setVisible(!shown);
+    if (shown) {
+        m_panels->setCurrentWidget(m_generation);
+        m_generation->setFocus();
+    } else {
+        m_panels->setCurrentIndex(indexOf(m_sheet.panel()));
+    }
 }
 
 void FrmStatement::notAvailable(const QString &what)

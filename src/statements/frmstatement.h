@@ -8,6 +8,8 @@
 
 class AnnexurePanel;
 class BasicInfoPanel;
+class GenerationFrame;
+class SalaryPanel;
 class ChallanPanel;
 class MessageBoxes;
 class QLabel;
@@ -46,6 +48,9 @@ private:
     void showAll();
     void showFocus();
     void notAvailable(const QString &what);
+    void syncBasicInfo();
+    void makeFile();
+    void showGenerationFrame(bool shown);
 
     StatementSheet m_sheet;
     ChallanSheet m_challans;
@@ -55,7 +60,8 @@ private:
     ChallanPanel *m_challan;
     QStackedWidget *m_panels;
     AnnexurePanel *m_annexure;
-    QWidget *m_salary;
+    SalaryPanel *m_salary;
+    GenerationFrame *m_generation;
     QLabel *m_formCaption;
     QLabel *m_companyName;
     QLabel *m_headCaption;

@@ -29,6 +29,24 @@ public:
         endResetModel();
     }
     const QList<Row> &rows() const { return m_rows; }
+    /// One row changed, added or taken out, without reading the others again.
+    void replaceRow(int index, Row row)
+    {
+        m_rows[index] = std::move(row);
+        emit dataChanged(this->index(index, 0), this->index(index, columnCount() - 1));
+    }
+    void appendRow(Row row)
+    {
+        beginInsertRows({}, int(m_rows.size()), int(m_rows.size()));
+        m_rows.append(std::move(row));
+        endInsertRows();
+    }
+    void takeRow(int index)
+    {
+        beginRemoveRows({}, index, index);
+        m_rows.removeAt(index);
+        endRemoveRows();
+    }
     const Row &row(int index) const { return m_rows.at(index); }
 
     /// The first row whose number (a text member) is @p number, or -1.

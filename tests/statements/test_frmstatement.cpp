@@ -1,4 +1,6 @@
 #include "statementfixture.h"
+#include "returnfile/batchgeneration.h"
+#include "returnfile/generationflow.h"
 #include "statements/challansheet.h"
 #include "statements/frmstatement.h"
 #include "statements/statementsheet.h"
@@ -81,6 +83,25 @@ void TestFrmStatement::rowsEnteredFromTheKeyboard()
                          "TranDeducteeE26"),
              "BHARAT BUILDERS/100.0/100.0");
     QCOMPARE(f.data.text("SELECT TotTax FROM TranChallanE26"), "100");
+
+    // The file generated from the screen is the batch front end's, byte for byte.
+    child<QPushButton>(screen, "CmdMakeFile")->click();
+    f.boxes.answerNext(Answer::Yes);
+    child<QPushButton>(screen, "cmdOK")->click();
+    QCOMPARE(f.boxes.texts().last(), GenerationFlow::generatedText);
+    QFile screenFile(child<QLineEdit>(screen, "txtFileNameFG")->text());
+    QVERIFY(screenFile.open(QIODevice::ReadOnly));
+    const QString batchPath = f.data.folder() + "/batch.txt";
+    QString output, errors;
+    QTextStream out(&output), err(&errors);
+    BatchGeneration::Options options{f.data.store().path(), "26Q", "Q1", "1", batchPath};
+    QCOMPARE(BatchGeneration(out, err).run(options, QDateTime::currentDateTime()),
+             int(BatchGeneration::AllWritten));
+    QFile batchFile(batchPath);
+    QVERIFY(batchFile.open(QIODevice::ReadOnly));
+    QCOMPARE(screenFile.readAll(), batchFile.readAll());
+    child<QPushButton>(screen, "cmdHidefilegenration")->click();
+
     child<QPushButton>(screen, "cmdChallan")->click();
 
     list->setFocus();

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "returnfile/generationflow.h"
+
+#include <QFrame>
+#include <QHash>
+
+#include <optional>
+
+class MessageBoxes;
+class QLineEdit;
+class QPushButton;
+class StatementSheet;
+
+/**
+ * FrameGen: what the return file will hold, shown between the checks of "Generate File" and the
+ * generation itself: the company, the period, the file's name and the totals. Its OK writes the
+ * log row and the file through the same flow as the batch front end, so the two give the same
+ * bytes for the same Statement.
+ */
+class GenerationFrame : public QFrame
+{
+    Q_OBJECT
+
+public:
+    GenerationFrame(StatementSheet &statement, MessageBoxes &boxes, QWidget *parent = nullptr);
+
+    /// Fills the fields from a prepared panel; the file name can then be changed.
+    void showPanel(const GenerationPanel &panel, const QDateTime &now, bool hasChallans);
+    /// The fields as the user leaves them, for the cover form.
+    QString annexures() const;
+    QString otherInformation() const;
+    const std::optional<GenerationPanel> &panel() const { return m_panel; }
+
+    /// How many rows the annexure list shows, as the log records them.
+    void setListedRows(std::function<int()> rows) { m_listedRows = std::move(rows); }
+
+signals:
+    void hideAsked();
+    void coverFormAsked(bool exportIt);
+
+private:
+    void generate();
+    void chooseFile();
+    QLineEdit *field(const QString &name) const { return m_fields.value(name); }
+
+    StatementSheet &m_statement;
+    MessageBoxes &m_boxes;
+    QHash<QString, QLineEdit *> m_fields;
+    QPushButton *m_ok;
+    QPushButton *m_print;
+    QPushButton *m_export;
+    std::optional<GenerationPanel> m_panel;
+    std::function<int()> m_listedRows;
+};
