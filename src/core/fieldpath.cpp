@@ -56,6 +56,15 @@ void FieldPath::enter(QWidget *field)
         spin->selectAll();
 }
 
+void FieldPath::focus(const QString &name)
+{
+    if (name.isEmpty())
+        return;
+    m_quiet = true;
+    enter(m_screen->findChild<QWidget *>(name));
+    m_quiet = false;
+}
+
 bool FieldPath::eventFilter(QObject *watched, QEvent *event)
 {
     QWidget *field = fieldOf(watched);

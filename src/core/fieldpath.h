@@ -38,6 +38,9 @@ public:
 
     /// Gives the field the focus and selects its text, as arriving by Enter does.
     static void enter(QWidget *field);
+    /// The same for the screen's field of that objectName, as the screen's own move: the field
+    /// that loses the focus is not checked. Nothing happens for an empty name.
+    void focus(const QString &name);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

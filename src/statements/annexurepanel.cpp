@@ -459,12 +459,7 @@ void AnnexurePanel::showEntry()
 
 void AnnexurePanel::showFocus()
 {
-    const QString focus = m_statement.takeFocus();
-    if (focus.isEmpty())
-        return;
-    m_path->setQuiet(true);
-    FieldPath::enter(field(focus));
-    m_path->setQuiet(false);
+    m_path->focus(m_statement.takeFocus());
 }
 
 bool AnnexurePanel::eventFilter(QObject *watched, QEvent *event)
@@ -494,9 +489,3 @@ QLineEdit *AnnexurePanel::box(const QString &name) const
     return m_boxes.value(name);
 }
 
-QWidget *AnnexurePanel::field(const QString &name) const
-{
-    if (QLineEdit *line = box(name))
-        return line;
-    return findChild<QWidget *>(name);
-}

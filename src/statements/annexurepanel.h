@@ -48,7 +48,6 @@ private:
     void changed(void (AnnexureSheet::*step)());
     void showFocus();
     QLineEdit *box(const QString &name) const;
-    QWidget *field(const QString &name) const;
     QString label(const QString &text, int item) const;
 
     StatementSheet &m_statement;

@@ -304,12 +304,7 @@ void ChallanPanel::showEntry()
 
 void ChallanPanel::showFocus()
 {
-    const QString focus = m_statement.takeFocus();
-    if (focus.isEmpty())
-        return;
-    m_path->setQuiet(true);
-    FieldPath::enter(findChild<QWidget *>(focus));
-    m_path->setQuiet(false);
+    m_path->focus(m_statement.takeFocus());
 }
 
 bool ChallanPanel::eventFilter(QObject *watched, QEvent *event)

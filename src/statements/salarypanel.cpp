@@ -376,12 +376,7 @@ void SalaryPanel::showEntry()
 
 void SalaryPanel::showFocus()
 {
-    const QString focus = m_statement.takeFocus();
-    if (focus.isEmpty())
-        return;
-    m_path->setQuiet(true);
-    FieldPath::enter(findChild<QWidget *>(focus));
-    m_path->setQuiet(false);
+    m_path->focus(m_statement.takeFocus());
 }
 
 bool SalaryPanel::eventFilter(QObject *watched, QEvent *event)
