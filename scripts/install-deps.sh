@@ -2,10 +2,13 @@
 # Installs what building, running and testing Kelvora needs on Debian, when it is missing.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libgl-dev sqlite3)
+packages=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libgl-dev
+          sqlite3 libxlsxwriter-dev)
+# The report tests read saved PDFs and zip-based exports back as text, names in Devanagari included.
+packages+=(poppler-utils unzip fonts-lohit-deva)
 if [ "${1:-}" = "--gui" ]; then
     # Only for looking at the program on a machine without a display.
-    packages+=(xvfb xauth)
+    packages+=(xvfb xauth imagemagick)
 fi
 
 missing=()

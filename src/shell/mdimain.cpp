@@ -30,20 +30,8 @@ struct PendingScreen
 };
 
 constexpr PendingScreen pendingScreens[] = {
-    {"frmImport", "Import Data"},
-    {"frmForm24", "The Form 24Q statement"},
-    {"frmForm26", "The Form 26Q statement"},
-    {"frmForm27", "The Form 27Q statement"},
-    {"frmForm27E", "The Form 27EQ statement"},
     {"FrmReport", "Printing of statements"},
     {"frmForm16Report", "Printing of Form 16A"},
-    {"dRptGroupMaster", "The Group Master report"},
-    {"drptGroupwiseCompanyList", "The Group-wise Company List"},
-    {"frmGroupWiseCompanyDetails", "The Group-wise Company Details"},
-    {"drptCompanywiseDeducteeList", "The Group-wise Deductee List"},
-    {"drptCompanywiseEmployeeList", "The Group-wise Employee List"},
-    {"drptCompanywiseFileGenerationLog", "The Company-wise Form generation Log"},
-    {"drptDatewiseFileGenerationLog", "The Date-wise Form generation Log"},
     {"frmCertificate16A", "Certificate - Form 16 A"},
 };
 
@@ -114,6 +102,8 @@ QMdiSubWindow *MdiMain::openScreen(const QString &screen)
         }
     }
     QWidget *widget = (*factory)();
+    if (!widget)
+        return nullptr; // a report without rows has said so instead of opening
     const QSize wanted = widget->size();
     QMdiSubWindow *frame = m_area->addSubWindow(widget);
     frame->setAttribute(Qt::WA_DeleteOnClose);
@@ -121,6 +111,9 @@ QMdiSubWindow *MdiMain::openScreen(const QString &screen)
     frame->show();
     // The frame comes up at a default size; each screen knows the size it is drawn for.
     frame->resize(frame->size() + wanted - widget->size());
+    // A screen that would run past the bottom of the area starts at its top instead.
+    if (frame->geometry().bottom() > m_area->viewport()->height())
+        frame->move(0, 0);
     return frame;
 }
 

@@ -36,7 +36,8 @@ public:
     void setScreenFactory(const QString &screen, ScreenFactory factory);
 
     /// Opens a screen afresh, discarding an open one of the same name first. A screen that this
-    /// version does not have yet gives an information box; the result is then null.
+    /// version does not have yet gives an information box; the result is then null, as it is
+    /// when the factory makes no screen (a report with nothing to show).
     QMdiSubWindow *openScreen(const QString &screen);
 
     /// The open screen of that name, or null.

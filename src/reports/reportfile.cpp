@@ -1,0 +1,109 @@
+#include "reports/reportfile.h"
+
+#include "reports/report.h"
+#include "reports/reportodf.h"
+#include "reports/reportplaintext.h"
+#include "reports/reportworkbook.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QTemporaryDir>
+
+namespace reportfile {
+
+namespace {
+
+QString failure(const QString &fileName, const QString &reason)
+{
+    return QStringLiteral("The report could not be saved as %1:\n%2")
+        .arg(QDir::toNativeSeparators(fileName), reason);
+}
+
+/// The whole file is written beside its destination and moved into place only when complete.
+QString writeWhole(const QString &fileName, const QByteArray &bytes)
+{
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return failure(fileName, file.errorString());
+    return {};
+}
+
+std::optional<QByteArray> pdfBytes(const Report &report)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setPageLayout(report.pageLayout());
+        writer.setResolution(1200);
+        writer.setTitle(report.caption());
+        writer.setCreator(QStringLiteral("Kelvora"));
+        if (!report.render(writer))
+            return std::nullopt;
+    }
+    return buffer.data();
+}
+
+std::optional<QByteArray> workbookBytes(const Report &report, QString *reason)
+{
+    // The library writes to a named file only; it writes in a folder of its own first.
+    QTemporaryDir folder;
+    if (!folder.isValid()) {
+        *reason = folder.errorString();
+        return std::nullopt;
+    }
+    const QString path = folder.filePath(QStringLiteral("report.xlsx"));
+    if (!writeReportWorkbook(report, path, reason))
+        return std::nullopt;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *reason = file.errorString();
+        return std::nullopt;
+    }
+    return file.readAll();
+}
+
+} // namespace
+
+std::optional<Format> formatForName(const QString &fileName)
+{
+    const QString ending = fileName.right(3);
+    if (ending == u"xls")
+        return Format::Workbook;
+    if (ending == u"doc")
+        return Format::Document;
+    if (ending == u"txt")
+        return Format::PlainText;
+    if (ending == u"pdf")
+        return Format::Pdf;
+    return std::nullopt;
+}
+
+QString save(const Report &report, Format format, const QString &fileName)
+{
+    std::optional<QByteArray> bytes;
+    QString reason;
+    switch (format) {
+    case Format::Workbook:
+        bytes = workbookBytes(report, &reason);
+        break;
+    case Format::Document:
+        bytes = reportOdf(report);
+        reason = QStringLiteral("The document could not be written.");
+        break;
+    case Format::PlainText:
+        bytes = reportPlainText(report);
+        break;
+    case Format::Pdf:
+        bytes = pdfBytes(report);
+        reason = QStringLiteral("The PDF could not be drawn.");
+        break;
+    }
+    if (!bytes)
+        return failure(fileName, reason);
+    return writeWhole(fileName, *bytes);
+}
+
+} // namespace reportfile

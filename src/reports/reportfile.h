@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+class Report;
+
+/// Saving a report to a file: a PDF, or an export that other programs open.
+namespace reportfile {
+
+enum class Format {
+    Workbook,      ///< a spreadsheet with the texts and amounts in cells
+    Document,      ///< a word-processor document (OpenDocument text)
+    PlainText,     ///< UTF-8 text, the cells in columns of characters
+    Pdf,
+};
+
+/// The format that the last three characters of a file's name ask for: "xls", "doc", "txt"
+/// or "pdf", compared exactly as typed, so "XLS" asks for none.
+std::optional<Format> formatForName(const QString &fileName);
+
+/// Saves the report in the format. Returns an empty text on success, otherwise the message for
+/// the user. A failed save leaves no partial file, and an earlier file of that name as it was.
+QString save(const Report &report, Format format, const QString &fileName);
+
+} // namespace reportfile

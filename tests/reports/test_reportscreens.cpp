@@ -1,0 +1,216 @@
+#include "reportsstore.h"
+
+#include "core/session.h"
+#include "reports/frmgroupwisecompanydetails.h"
+#include "reports/report.h"
+#include "reports/reportpreview.h"
+#include "returnfile/form27aactions.h"
+#include "shell/mdimain.h"
+#include "shell/screenfactories.h"
+#include "support/scriptedmessageboxes.h"
+#include "support/testsuite.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QtTest>
+
+namespace {
+
+/// The main window over a store, as the program opens it.
+struct Window
+{
+    explicit Window(const TestStore &data) : session(data.store()),
+        window(data.folder(), session, boxes)
+    {
+        registerScreens(window, session, boxes);
+        window.show();
+    }
+
+    void trigger(const QString &entry)
+    {
+        window.findChild<QAction *>(entry)->trigger();
+    }
+
+    ReportPreview *preview(const QString &name) const
+    {
+        QMdiSubWindow *frame = window.findScreen(name);
+        return frame ? qobject_cast<ReportPreview *>(frame->widget()) : nullptr;
+    }
+
+    Session session;
+    ScriptedMessageBoxes boxes;
+    MdiMain window;
+};
+
+} // namespace
+
+class TestReportScreens : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void menuReportsSaveTheStoreAsPdf_data();
+    void menuReportsSaveTheStoreAsPdf();
+    void emptyStore();
+    void companyDetailsScreen_data();
+    void companyDetailsScreen();
+    void form27AButtons();
+    void printingWithoutPrinter();
+};
+
+void TestReportScreens::menuReportsSaveTheStoreAsPdf_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("screen");
+    QTest::addColumn<QStringList>("values");
+    QTest::newRow("group master") << "mnuGroupMaster" << "dRptGroupMaster"
+                                  << QStringList{"Group Master", "ALPHA GROUP", "EMPTY GROUP"};
+    QTest::newRow("companies") << "mnuGroupwiseCompanyList" << "drptGroupwiseCompanyList"
+                               << QStringList{"BETA GROUP", "BETA MILLS", "CALB12345C",
+                                              trickyName, "AAACO1234B"};
+    QTest::newRow("deductees") << "mnuGroupwiseCompanywiseDeducteeList"
+                               << "drptCompanywiseDeducteeList"
+                               << QStringList{"ZUBIN MEHTA", "AAAPZ1111Z", trickyName};
+    QTest::newRow("employees") << "mnuGroupwiseCompanywiseEmployeeList"
+                               << "drptCompanywiseEmployeeList"
+                               << QStringList{"ESHA DEOL", "AAAPE4444E", trickyName};
+    QTest::newRow("log by company") << "mnuCompanywiseFormgenerationLog"
+                                    << "drptCompanywiseFileGenerationLog"
+                                    << QStringList{"Form -27EQ", "1234567.50", "4:05:09 PM"};
+    QTest::newRow("log by date") << "DatewiseFormgenerationLog" << "drptDatewiseFileGenerationLog"
+                                 << QStringList{"ZETA TRADERS", "70.50", "31.10.26"};
+}
+
+void TestReportScreens::menuReportsSaveTheStoreAsPdf()
+{
+    QFETCH(QString, entry);
+    QFETCH(QString, screen);
+    QFETCH(QStringList, values);
+    if (!canReadPdf())
+        QSKIP("pdftotext (poppler-utils) is not installed");
+    Window main(reportsStore());
+    main.trigger(entry);
+    ReportPreview *preview = main.preview(screen);
+    QVERIFY(preview);
+    QCOMPARE(preview->windowTitle(), preview->report().caption());
+    QTemporaryDir folder;
+    const QString pdf = folder.filePath("report.pdf");
+    QVERIFY(preview->savePdf(pdf));
+    const QString text = pdfText(pdf);
+    for (const QString &value : values)
+        QVERIFY2(text.contains(value), qPrintable(value + " in:\n" + text));
+    QVERIFY(text.contains("Run Date : " + QDate::currentDate().toString("dd/MM/yyyy")));
+    QCOMPARE(main.boxes.shown.size(), 0);
+}
+
+void TestReportScreens::emptyStore()
+{
+    const TestStore empty;
+    Window main(empty);
+    for (const char *entry : {"mnuGroupMaster", "mnuGroupwiseCompanyList",
+                              "mnuGroupwiseCompanywiseDeducteeList",
+                              "mnuGroupwiseCompanywiseEmployeeList",
+                              "mnuCompanywiseFormgenerationLog", "DatewiseFormgenerationLog"})
+        main.trigger(entry);
+    // The lists say so; an empty log shows nothing and says nothing.
+    QCOMPARE(main.boxes.texts(), QStringList(4, "No Record Found Preview Not Avilable"));
+    QVERIFY(main.window.mdiArea()->subWindowList().isEmpty());
+}
+
+void TestReportScreens::companyDetailsScreen_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<bool>("selectAll");
+    QTest::addColumn<QString>("message"); // empty: the report opens
+    QTest::newRow("no group") << "" << false << "No Company Found Under This Group.";
+    QTest::newRow("group without companies") << "EMPTY GROUP" << true
+                                             << "No Company Found Under This Group.";
+    QTest::newRow("none selected") << "ALPHA GROUP" << false
+                                   << "Please Select At Least One Company.";
+    QTest::newRow("no row") << "BETA GROUP" << true << "Sorry No Record Found.";
+    QTest::newRow("all of a group") << "ALPHA GROUP" << true << "";
+}
+
+void TestReportScreens::companyDetailsScreen()
+{
+    QFETCH(QString, group);
+    QFETCH(bool, selectAll);
+    QFETCH(QString, message);
+    Window main(reportsStore());
+    main.trigger("mnuGroupWiseCompanyDetails");
+    QWidget *screen = main.window.findScreen("frmGroupWiseCompanyDetails")->widget();
+    auto *groups = screen->findChild<QComboBox *>("CmbGroup");
+    if (!group.isEmpty()) {
+        groups->setCurrentText(group);
+        emit groups->activated(groups->currentIndex());
+    }
+    if (selectAll)
+        screen->findChild<QPushButton *>("CmdSelAll")->click();
+    screen->findChild<QCheckBox *>("ChkOption")->setChecked(true);
+    screen->findChild<QPushButton *>("cmdOK")->click();
+    if (!message.isEmpty()) {
+        QCOMPARE(main.boxes.texts(), QStringList{message});
+        QVERIFY(main.window.findScreen("frmGroupWiseCompanyDetails"));
+        return;
+    }
+    QCOMPARE(main.boxes.texts(), QStringList());
+    QApplication::processEvents(); // the screen closes itself once the report is open
+    QVERIFY(!main.window.findScreen("frmGroupWiseCompanyDetails"));
+    ReportPreview *preview = main.preview("dRptGrpCmpny");
+    QVERIFY(preview);
+    QCOMPARE(preview->report().pageCount(), 2);
+    QVERIFY(preview->report().text().contains("CompName:\t" + trickyName));
+}
+
+void TestReportScreens::form27AButtons()
+{
+    Window main(reportsStore());
+    auto *statement = new QWidget;
+    main.window.mdiArea()->addSubWindow(statement)->show();
+    Form27AValues values;
+    values.compId = "1";
+    values.assessmentYear = assessmentYear;
+    values.compName = trickyName;
+
+    form27aactions::printForm27A(statement, main.session.store, main.boxes, values);
+    ReportPreview *preview = main.preview("drpt27A");
+    QVERIFY(preview);
+    QCOMPARE(preview->windowTitle(), "Form 27A");
+    QVERIFY(preview->report().text().contains("(a) Name Of Organisation\t" + trickyName));
+
+    // A name with an ending of no format takes the chosen filter's.
+    QTemporaryDir folder;
+    const QString path = folder.filePath("FORM27A.XLS");
+    QVERIFY(form27aactions::exportForm27ATo(main.session.store, main.boxes, values, path,
+                                            reportfile::Format::Document));
+    QCOMPARE(zipMember(path, "mimetype"), "application/vnd.oasis.opendocument.text");
+
+    values.compId = "2";
+    form27aactions::printForm27A(statement, main.session.store, main.boxes, values);
+    QVERIFY(!form27aactions::exportForm27ATo(main.session.store, main.boxes, values,
+                                             folder.filePath("other.txt"),
+                                             reportfile::Format::PlainText));
+    QCOMPARE(main.boxes.texts(), QStringList(2, "You need to first generate the Kelvora file"));
+    QVERIFY(!QFile::exists(folder.filePath("other.txt")));
+    QCOMPARE(main.window.mdiArea()->subWindowList().size(), 2);
+}
+
+void TestReportScreens::printingWithoutPrinter()
+{
+    if (!QPrinterInfo::availablePrinters().isEmpty())
+        QSKIP("this machine has a printer");
+    Window main(reportsStore());
+    main.trigger("mnuGroupMaster");
+    main.preview("dRptGroupMaster")->findChild<QPushButton *>("cmdPrint")->click();
+    QCOMPARE(main.boxes.texts(), QStringList{"Printer needs to installed for printing Reports"});
+}
+
+KELVORA_TEST_OBJECT(TestReportScreens);
+
+#include "test_reportscreens.moc"
