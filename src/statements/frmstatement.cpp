@@ -5,8 +5,10 @@
 #include "core/screenroutines.h"
 #include "core/session.h"
 #include "core/storeerror.h"
+#include "returnfile/form27aactions.h"
 #include "statements/annexurepanel.h"
 #include "statements/basicinfopanel.h"
+#include "statements/coverformvalues.h"
 #include "statements/generationframe.h"
 #include "statements/salarypanel.h"
 #include "statements/challanpanel.h"
@@ -75,9 +77,7 @@ FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxe
             m_panelButtons[indexOf(Panel::Challan)]->click();
     });
     connect(m_generation, &GenerationFrame::hideAsked, this, [this] { showGenerationFrame(false); });
-    connect(m_generation, &GenerationFrame::coverFormAsked, this, [this] {
-        notAvailable(QStringLiteral("The cover form of the return"));
-    });
+    connect(m_generation, &GenerationFrame::coverFormAsked, this, &FrmStatement::coverForm);
     m_generation->setListedRows([this] { return m_annexureRows.rows().rowCount(); });
     connect(m_challan, &ChallanPanel::annexureAsked, this, [this] {
         if (m_panelButtons[indexOf(Panel::Annexure)]->isEnabled())
@@ -325,8 +325,13 @@ void FrmStatement::showGenerationFrame(bool shown)
     }
 }
 
-void FrmStatement::notAvailable(const QString &what)
+void FrmStatement::coverForm(bool exportIt)
 {
-    m_boxes.show({QStringLiteral("%1 is not available yet in this version of Kelvora.").arg(what),
-                  appTitle, MessageIcon::Information});
+    syncBasicInfo();
+    const Form27AValues values = coverFormValues(m_sheet.form().kind, m_sheet.info(),
+                                                 m_sheet.session(), *m_generation);
+    if (exportIt)
+        form27aactions::exportForm27A(this, m_sheet.session().store, m_boxes, values);
+    else
+        form27aactions::printForm27A(this, m_sheet.session().store, m_boxes, values);
 }

@@ -47,7 +47,7 @@ private:
     void showPanel(StatementSheet::Panel panel);
     void showAll();
     void showFocus();
-    void notAvailable(const QString &what);
+    void coverForm(bool exportIt);
     void syncBasicInfo();
     void makeFile();
     void showGenerationFrame(bool shown);

@@ -137,14 +137,9 @@ void GenerationFrame::showPanel(const GenerationPanel &panel, const QDateTime &n
     m_ok->setFocus();
 }
 
-QString GenerationFrame::annexures() const
+QString GenerationFrame::text(const QString &name) const
 {
-    return field(QStringLiteral("txtAnnexures"))->text();
-}
-
-QString GenerationFrame::otherInformation() const
-{
-    return field(QStringLiteral("txtOtherInf"))->text();
+    return field(name)->text();
 }
 
 void GenerationFrame::generate()

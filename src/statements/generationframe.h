@@ -27,9 +27,8 @@ public:
 
     /// Fills the fields from a prepared panel; the file name can then be changed.
     void showPanel(const GenerationPanel &panel, const QDateTime &now, bool hasChallans);
-    /// The fields as the user leaves them, for the cover form.
-    QString annexures() const;
-    QString otherInformation() const;
+    /// A field's text as the user leaves it, for the cover form.
+    QString text(const QString &name) const;
     const std::optional<GenerationPanel> &panel() const { return m_panel; }
 
     /// How many rows the annexure list shows, as the log records them.

@@ -1,5 +1,7 @@
 #include "statementfixture.h"
 #include "returnfile/batchgeneration.h"
+#include "reports/report.h"
+#include "reports/reportpreview.h"
 #include "returnfile/generationflow.h"
 #include "statements/challansheet.h"
 #include "statements/frmstatement.h"
@@ -100,6 +102,18 @@ void TestFrmStatement::rowsEnteredFromTheKeyboard()
     QFile batchFile(batchPath);
     QVERIFY(batchFile.open(QIODevice::ReadOnly));
     QCOMPARE(screenFile.readAll(), batchFile.readAll());
+
+    // The cover form takes the screen's values as they stand.
+    child<QPushButton>(screen, "cmdPrintForm27A")->click();
+    ReportPreview *cover = nullptr;
+    for (QWidget *window : QApplication::topLevelWidgets())
+        cover = cover ? cover : qobject_cast<ReportPreview *>(window);
+    QVERIFY2(cover, qPrintable(f.boxes.texts().last()));
+    const QString coverText = cover->report().text();
+    QVERIFY2(coverText.contains("(a) Name Of Organisation\tKAVERI TRADERS")
+                 && coverText.contains("26Q\t1000.00\t100.00\t1010.50"),
+             qPrintable(coverText));
+    cover->close();
     child<QPushButton>(screen, "cmdHidefilegenration")->click();
 
     child<QPushButton>(screen, "cmdChallan")->click();
