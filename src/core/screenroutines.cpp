@@ -1,10 +1,25 @@
 #include "core/screenroutines.h"
 
 #include <QKeyEvent>
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
 
 namespace screenroutines {
+
+QMdiSubWindow *showInArea(QMdiArea *area, QWidget *screen)
+{
+    const QSize wanted = screen->size();
+    QMdiSubWindow *frame = area->addSubWindow(screen);
+    frame->setAttribute(Qt::WA_DeleteOnClose);
+    frame->setWindowIcon(area->window()->windowIcon());
+    frame->show();
+    // The frame comes up at a default size; each screen knows the size it is drawn for.
+    frame->resize(frame->size() + wanted - screen->size());
+    if (frame->geometry().bottom() > area->viewport()->height())
+        frame->move(0, 0);
+    return frame;
+}
 
 void closeScreen(QWidget *screen)
 {

@@ -146,11 +146,7 @@ ReportPreview *ReportPreview::open(QWidget *beside, std::shared_ptr<const Report
     auto *preview = new ReportPreview(std::move(report), boxes, name);
     for (QWidget *widget = beside; widget; widget = widget->parentWidget()) {
         if (auto *frame = qobject_cast<QMdiSubWindow *>(widget); frame && frame->mdiArea()) {
-            const QSize wanted = preview->size();
-            QMdiSubWindow *own = frame->mdiArea()->addSubWindow(preview);
-            own->setAttribute(Qt::WA_DeleteOnClose);
-            own->show();
-            own->resize(own->size() + wanted - preview->size());
+            screenroutines::showInArea(frame->mdiArea(), preview);
             return preview;
         }
     }

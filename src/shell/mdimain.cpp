@@ -4,6 +4,7 @@
 #include "core/frmabout.h"
 #include "core/frmlogin.h"
 #include "core/messageboxes.h"
+#include "core/screenroutines.h"
 #include "core/session.h"
 #include "core/startup.h"
 #include "core/storeerror.h"
@@ -104,17 +105,7 @@ QMdiSubWindow *MdiMain::openScreen(const QString &screen)
     QWidget *widget = (*factory)();
     if (!widget)
         return nullptr; // a report without rows has said so instead of opening
-    const QSize wanted = widget->size();
-    QMdiSubWindow *frame = m_area->addSubWindow(widget);
-    frame->setAttribute(Qt::WA_DeleteOnClose);
-    frame->setWindowIcon(windowIcon());
-    frame->show();
-    // The frame comes up at a default size; each screen knows the size it is drawn for.
-    frame->resize(frame->size() + wanted - widget->size());
-    // A screen that would run past the bottom of the area starts at its top instead.
-    if (frame->geometry().bottom() > m_area->viewport()->height())
-        frame->move(0, 0);
-    return frame;
+    return screenroutines::showInArea(m_area, widget);
 }
 
 QMdiSubWindow *MdiMain::findScreen(const QString &screen) const
