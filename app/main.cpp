@@ -7,7 +7,6 @@
 #include "shell/screenfactories.h"
 
 #include <QApplication>
-#include <memory>
 
 int main(int argc, char *argv[])
 {
@@ -17,19 +16,24 @@ int main(int argc, char *argv[])
     QtMessageBoxes boxes;
 
     // Without its data store the program has nothing to show: one box, and no main window.
-    std::unique_ptr<DataStore> store;
+    std::optional<OpenedStore> opened;
     try {
-        store = startup::openStore(programFolder);
+        opened = startup::openStore(programFolder, boxes);
     } catch (const StoreError &error) {
         boxes.show({error.description(), error.code().isEmpty() ? appTitle : error.code(),
                     MessageIcon::Critical, MessageButtons::Ok});
         return 1;
     }
+    if (!opened)
+        return 0; // the user chose not to view a store that cannot be written
+    DataStore &store = *opened->store;
 
-    Session session(*store);
+    Session session(store);
     MdiMain mainWindow(programFolder, session, boxes);
     registerScreens(mainWindow, session, boxes);
     boxes.setParent(&mainWindow);
+    if (store.isViewOnly())
+        mainWindow.setWindowTitle(mainWindow.windowTitle() + QStringLiteral(" (viewing only)"));
     mainWindow.showMaximized();
     mainWindow.load();
     try {
@@ -37,6 +41,7 @@ int main(int argc, char *argv[])
     } catch (const StoreError &error) {
         boxes.show({error.description(), appTitle, MessageIcon::Critical, MessageButtons::Ok});
     }
-    startup::createReturnsFolder(store->folder());
+    if (!store.isViewOnly())
+        startup::createReturnsFolder(store.folder());
     return app.exec();
 }

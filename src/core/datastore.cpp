@@ -24,13 +24,15 @@ DataStore::DataStore(const QString &path, OpenMode mode)
     : m_path(path),
       m_connectionName(QStringLiteral("kelvora-%1").arg(connectionCounter.fetchAndAddRelaxed(1)))
 {
-    const QFileInfo file(path);
-    if (mode == OpenMode::ExistingFile && !file.exists())
-        throw StoreError(QStringLiteral("14"),
-                         QStringLiteral("Could not find file '%1'.").arg(file.absoluteFilePath()));
+    if (mode != OpenMode::CreateFile && !QFileInfo::exists(path))
+        throw missingFile(path);
 
     QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
     db.setDatabaseName(path);
+    QString options = QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs);
+    if (mode == OpenMode::ReadOnly)
+        options += QStringLiteral(";QSQLITE_OPEN_READONLY");
+    db.setConnectOptions(options);
     if (!db.open()) {
         const StoreError error = errorOf(db.lastError());
         db = QSqlDatabase();
@@ -47,6 +49,12 @@ DataStore::DataStore(const QString &path, OpenMode mode)
         QSqlDatabase::removeDatabase(m_connectionName);
         throw;
     }
+}
+
+StoreError DataStore::missingFile(const QString &path)
+{
+    return StoreError(QStringLiteral("14"), QStringLiteral("Could not find file '%1'.")
+                                                .arg(QFileInfo(path).absoluteFilePath()));
 }
 
 DataStore::~DataStore()
@@ -68,16 +76,28 @@ QSqlDatabase DataStore::database() const
     return QSqlDatabase::database(m_connectionName, false);
 }
 
+void DataStore::setViewOnly()
+{
+    exec(QStringLiteral("PRAGMA query_only = ON"));
+    m_viewOnly = true;
+}
+
 QSqlQuery DataStore::exec(const QString &sql, const QVariantList &values) const
 {
     QSqlQuery query(database());
     query.setForwardOnly(true);
+    const auto fail = [this](const QSqlError &error) {
+        // SQLITE_READONLY: a write that the view-only switch stopped.
+        if (m_viewOnly && error.nativeErrorCode() == u"8")
+            return StoreError({}, viewOnlyText);
+        return errorOf(error);
+    };
     if (!query.prepare(sql))
-        throw errorOf(query.lastError());
+        throw fail(query.lastError());
     for (const QVariant &value : values)
         query.addBindValue(value);
     if (!query.exec())
-        throw errorOf(query.lastError());
+        throw fail(query.lastError());
     return query;
 }
 

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QVariant>
 
+class StoreError;
+
 /**
  * The one connection to the data store file. Every statement goes through here with its values
  * bound, and every failure comes out as a StoreError; nothing is swallowed.
@@ -15,11 +17,23 @@ public:
     /// The file's name beside the program.
     static inline const QString fileName = QStringLiteral("Kelvora.db");
 
-    enum class OpenMode { ExistingFile, CreateFile };
+    /// What a save says when the store was opened for viewing only.
+    static inline const QString viewOnlyText =
+        QStringLiteral("The data store is open for viewing only: nothing can be saved.");
+
+    /// How long a statement waits for another program's write to the file to end before it
+    /// fails as locked.
+    static constexpr int busyTimeoutMs = 20000;
+
+    /// ReadOnly opens the file so that SQLite itself never writes to it, for a look at a file
+    /// that may not be a store of this program.
+    enum class OpenMode { ExistingFile, CreateFile, ReadOnly };
 
     /// Opens the file; an absent file (with ExistingFile), an unreadable one or one that is not
     /// an SQLite store throws StoreError with a description the user can act on.
     explicit DataStore(const QString &path, OpenMode mode = OpenMode::ExistingFile);
+    /// The refusal of a store file that is not there.
+    static StoreError missingFile(const QString &path);
     ~DataStore();
     DataStore(const DataStore &) = delete;
     DataStore &operator=(const DataStore &) = delete;
@@ -28,6 +42,11 @@ public:
     /// The folder that holds the file: eReturns and the programs beside the store live there.
     QString folder() const;
     QSqlDatabase database() const;
+
+    /// From now on every write is refused with viewOnlyText, by SQLite as well as by
+    /// Transaction, so that a screen that saves shows why nothing was kept.
+    void setViewOnly();
+    bool isViewOnly() const { return m_viewOnly; }
 
     /// Runs a statement with positional values bound in order; returns the query positioned
     /// before its first row.
@@ -43,4 +62,5 @@ public:
 private:
     QString m_path;
     QString m_connectionName;
+    bool m_viewOnly = false;
 };

@@ -2,6 +2,7 @@
 
 #include "core/datastore.h"
 #include "core/schema.h"
+#include "core/storecheck.h"
 #include "core/storeerror.h"
 #include "core/storeupgrade.h"
 #include "core/transaction.h"
@@ -70,6 +71,7 @@ void fill(const QString &path, int firstYear)
     seedFromFile(store, QStringLiteral("mstSections27"), QStringLiteral("sections27.tsv"));
     seedFromFile(store, QStringLiteral("mstCollectionCode"),
                  QStringLiteral("collectioncodes.tsv"));
+    storecheck::mark(store);
     store.exec(QStringLiteral("PRAGMA user_version = %1").arg(storeupgrade::olderVersion));
     transaction.commit();
 }

@@ -10,9 +10,9 @@
 
 namespace startup {
 
-std::unique_ptr<DataStore> openStore(const QString &programFolder)
+std::optional<OpenedStore> openStore(const QString &programFolder, MessageBoxes &boxes)
 {
-    return std::make_unique<DataStore>(QDir(programFolder).filePath(DataStore::fileName));
+    return storeaccess::openForProgram(QDir(programFolder).filePath(DataStore::fileName), boxes);
 }
 
 void prepareStore(Session &session)

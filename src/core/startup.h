@@ -1,17 +1,20 @@
 #pragma once
 
-#include <QString>
-#include <memory>
+#include "core/storeaccess.h"
 
-class DataStore;
+#include <QString>
+#include <optional>
+
+class MessageBoxes;
 struct Session;
 
 /// The steps of a start, in the order the program runs them.
 namespace startup {
 
-/// Opens Kelvora.db in the program's folder; a missing, unreadable or foreign file throws
-/// StoreError, which the program reports before any window appears.
-std::unique_ptr<DataStore> openStore(const QString &programFolder);
+/// Opens Kelvora.db in the program's folder as storeaccess::openForProgram does: none when the
+/// user would not view a store that cannot be written or is in use; a missing, unreadable or
+/// foreign file throws StoreError, which the program reports before any window appears.
+std::optional<OpenedStore> openStore(const QString &programFolder, MessageBoxes &boxes);
 
 /// What the main window's load does: the session's assessment id, the seed of the CHAPVIAU
 /// sections, the schema upgrade, and the first year of the financial year.

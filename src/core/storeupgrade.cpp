@@ -2,6 +2,7 @@
 
 #include "core/datastore.h"
 #include "core/schema.h"
+#include "core/storecheck.h"
 #include "core/transaction.h"
 
 #include <QStringList>
@@ -91,11 +92,16 @@ const AddedColumn addedColumns[] = {
     {"TranChallanE27E", "TransferVoucherNo", true},
 };
 
+bool hasChapterViaSections(const DataStore &store)
+{
+    return store.hasRows(QStringLiteral("SELECT 1 FROM mstSections24 WHERE SectionType = ?"),
+                         {QStringLiteral("CHAPVIAU")});
+}
+
 void seedChapterViaSections(const DataStore &store)
 {
     Transaction transaction(store);
-    if (!store.hasRows(QStringLiteral("SELECT 1 FROM mstSections24 WHERE SectionType = ?"),
-                       {QStringLiteral("CHAPVIAU")})) {
+    if (!hasChapterViaSections(store)) {
         // Both rows carry the same description; that is the data as the forms expect it.
         const QString insert = QStringLiteral("INSERT INTO mstSections24 VALUES (?, ?, ?)");
         store.exec(insert, {"CHAPVIAU", "80CCE", "DEDUCTION FOR RENT PAID"});
@@ -153,6 +159,19 @@ void addColumns(const DataStore &store)
     }
 }
 
+void upgrade(const DataStore &store)
+{
+    seedChapterViaSections(store);
+    // The amounts of the 27Q and 27EQ challans and rows were once whole numbers and had to be
+    // widened to doubles. SQLite keeps any number in any numeric column, so there is nothing to
+    // widen here.
+    addMinistries(store);
+    addCategories(store);
+    addColumns(store);
+    for (const QString &table : schema::tableNames(schema::Layout::Current))
+        schema::createIndexes(store, table);
+}
+
 } // namespace
 
 std::optional<QVariant> addedColumnValue(const QString &table, const QString &column)
@@ -165,18 +184,25 @@ std::optional<QVariant> addedColumnValue(const QString &table, const QString &co
     return std::nullopt;
 }
 
+bool isDue(const DataStore &store)
+{
+    return store.scalar(QStringLiteral("PRAGMA user_version")).toInt() < currentVersion
+           || !hasChapterViaSections(store);
+}
+
 void run(const DataStore &store)
 {
-    seedChapterViaSections(store);
-    // The amounts of the 27Q and 27EQ challans and rows were once whole numbers and had to be
-    // widened to doubles. SQLite keeps any number in any numeric column, so there is nothing to
-    // widen here.
-    addMinistries(store);
-    addCategories(store);
-    addColumns(store);
-    for (const QString &table : schema::tableNames(schema::Layout::Current))
-        schema::createIndexes(store, table);
+    // Writing only when something is due keeps an unchanged store's bytes as they were, and
+    // lets a read-only store that is up to date be opened at all.
+    const bool due = isDue(store);
+    if (!due && (store.isViewOnly() || storecheck::isMarked(store)))
+        return;
+    if (due)
+        upgrade(store);
+    Transaction transaction(store);
+    storecheck::mark(store);
     store.exec(QStringLiteral("PRAGMA user_version = %1").arg(currentVersion));
+    transaction.commit();
 }
 
 } // namespace storeupgrade

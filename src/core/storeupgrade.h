@@ -15,7 +15,13 @@ namespace storeupgrade {
 constexpr int olderVersion = 1;
 constexpr int currentVersion = 2;
 
-/// The seed of the two CHAPVIAU sections, then the upgrade steps, in the order of every start.
+/// Whether a start has anything to write: a store of an older version, or one without the
+/// CHAPVIAU sections that every start makes sure of.
+bool isDue(const DataStore &store);
+
+/// The seed of the two CHAPVIAU sections, then the upgrade steps, in the order of every start,
+/// and the store marked as this program's. A store with nothing due is not written to, but for
+/// its mark when it has none.
 void run(const DataStore &store);
 
 /// For a column that the upgrade adds to a table of the older layout: the value it gives the

@@ -17,9 +17,12 @@ StoreError errorOf(const QSqlDatabase &db)
 
 Transaction::Transaction(const DataStore &store) : m_store(store)
 {
-    QSqlDatabase db = m_store.database();
-    if (!db.transaction())
-        throw errorOf(db);
+    if (store.isViewOnly())
+        throw StoreError({}, DataStore::viewOnlyText);
+    // The write lock is taken at the start, not at the first write: the ids read as the
+    // largest plus one inside the transaction stay free until it commits, and a second writer
+    // waits out the busy timeout here instead of failing when its read turns into a write.
+    m_store.exec(QStringLiteral("BEGIN IMMEDIATE"));
 }
 
 Transaction::~Transaction()

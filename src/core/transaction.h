@@ -2,7 +2,9 @@
 
 class DataStore;
 
-/// Scoped transaction: rolls back on leaving the scope unless commit() was reached.
+/// Scoped write transaction: rolls back on leaving the scope unless commit() was reached. It
+/// holds the store's write lock from the start, and on a store opened for viewing only it is
+/// refused (StoreError with DataStore::viewOnlyText) before anything is read or written.
 class Transaction
 {
 public:

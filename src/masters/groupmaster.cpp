@@ -3,6 +3,7 @@
 #include "core/datastore.h"
 #include "core/records.h"
 #include "core/formtraits.h"
+#include "core/transaction.h"
 
 #include <QSqlQuery>
 
@@ -98,9 +99,12 @@ int GroupMaster::save(const Entry &entry) const
                      {name, entry.id});
         return entry.id;
     }
+    // The id is read inside the write, so that another program's save cannot take it first.
+    Transaction transaction(m_store);
     const int id = nextId();
     m_store.exec(QStringLiteral("INSERT INTO mstGroup (GroupID, GroupName) VALUES (?, ?)"),
                  {id, name});
+    transaction.commit();
     return id;
 }
 
