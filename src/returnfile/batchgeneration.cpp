@@ -3,9 +3,9 @@
 #include "core/datastore.h"
 #include "core/messageboxes.h"
 #include "core/records.h"
-#include "core/storeerror.h"
 #include "core/startup.h"
-#include "core/storeupgrade.h"
+#include "core/storeaccess.h"
+#include "core/storeerror.h"
 #include "returnfile/controltotals.h"
 #include "returnfile/generationflow.h"
 #include "core/formtraits.h"
@@ -13,9 +13,9 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QMap>
 #include <QSqlQuery>
 #include <QTextStream>
-#include <memory>
 
 namespace {
 
@@ -79,7 +79,8 @@ std::optional<BatchGeneration::Options> BatchGeneration::parse(const QStringList
     const QCommandLineOption company(QStringLiteral("company"), {}, QStringLiteral("ID_OR_TAN"));
     const QCommandLineOption output(QStringLiteral("output"), {}, QStringLiteral("FILE"));
     const QCommandLineOption all(QStringLiteral("all"));
-    parser.addOptions({store, form, quarter, company, output, all});
+    const QCommandLineOption wait(QStringLiteral("wait"), {}, QStringLiteral("SECONDS"));
+    parser.addOptions({store, form, quarter, company, output, all, wait});
     if (!parser.parse(arguments)) {
         error = parser.errorText();
         return std::nullopt;
@@ -97,6 +98,9 @@ std::optional<BatchGeneration::Options> BatchGeneration::parse(const QStringList
     options.company = parser.value(company).trimmed();
     options.output = parser.value(output);
     options.all = parser.isSet(all);
+    bool waitRead = true;
+    if (parser.isSet(wait))
+        options.waitSeconds = parser.value(wait).toInt(&waitRead);
 
     if (options.storePath.isEmpty())
         error = QStringLiteral("--store is required");
@@ -110,6 +114,8 @@ std::optional<BatchGeneration::Options> BatchGeneration::parse(const QStringList
         error = QStringLiteral("--output names one file and cannot go with --all");
     else if (parser.isSet(output) && options.output.trimmed().isEmpty())
         error = QStringLiteral("--output needs a file name");
+    else if (!waitRead || options.waitSeconds < 0)
+        error = QStringLiteral("--wait takes a number of seconds");
     if (!error.isEmpty())
         return std::nullopt;
     return options;
@@ -119,11 +125,13 @@ QString BatchGeneration::usage()
 {
     return QStringLiteral(
         "usage: kelvora-returns --store PATH --form FORM --quarter Q --company ID_OR_TAN "
-        "[--output FILE]\n"
-        "       kelvora-returns --store PATH --form FORM --quarter Q --all\n"
+        "[--output FILE] [--wait SECONDS]\n"
+        "       kelvora-returns --store PATH --form FORM --quarter Q --all [--wait SECONDS]\n"
         "Writes the return file of each saved Statement asked for and logs the generation.\n"
         "FORM is 24Q, 26Q, 27Q or 27EQ; Q is Q1 to Q4. Files go to eReturns beside the store.\n"
-        "Exit status: 0 every file written, 1 a Statement refused, 2 usage or store error.\n");
+        "A store in use by another program is waited for, 30 seconds unless --wait says.\n"
+        "Exit status: 0 every file written, 1 a Statement refused, 2 usage error, 3 store or\n"
+        "file-system failure.\n");
 }
 
 BatchGeneration::BatchGeneration(QTextStream &out, QTextStream &err) : m_out(out), m_err(err) {}
@@ -136,63 +144,62 @@ int BatchGeneration::run(const Options &options, const QDateTime &now)
         return UsageError;
     }
 
-    std::unique_ptr<DataStore> store;
+    OpenedStore opened;
     QList<Target> targets;
     try {
-        store = std::make_unique<DataStore>(options.storePath);
-        // A store of an older layout is brought up to date, and the folder of return files
-        // made, as the program's start would.
-        storeupgrade::run(*store);
-        startup::createReturnsFolder(store->folder());
+        // Under the store's lock, brought up to date and with its folder of returns, as the
+        // program's start leaves it.
+        opened = storeaccess::openForBatch(options.storePath, storeaccess::Access::Write,
+                                           std::chrono::seconds(options.waitSeconds));
+        const DataStore &store = *opened.store;
+        startup::createReturnsFolder(store.folder());
 
         const QString statements =
             QStringLiteral("SELECT BasicIfoID, CompID FROM %1 WHERE AsstID = ? AND Quarter = ?")
                 .arg(form->basicInfoTable);
         QSqlQuery query;
         if (options.all) {
-            query = store->exec(statements + QStringLiteral(" ORDER BY BasicIfoID"),
-                                {asstId, options.quarter});
+            query = store.exec(statements + QStringLiteral(" ORDER BY BasicIfoID"),
+                               {asstId, options.quarter});
         } else {
             QString error;
-            const std::optional<int> compId = findCompany(*store, options.company, error);
+            const std::optional<int> compId = findCompany(store, options.company, error);
             if (!compId) {
                 m_err << "kelvora-returns: " << error << '\n';
                 return UsageError;
             }
-            query = store->exec(statements + QStringLiteral(" AND CompID = ?"),
-                                {asstId, options.quarter, *compId});
-            if (!query.next()) {
-                refuse(*store, *compId, GenerationFlow::notSavedText);
-                return Refused;
-            }
+            query = store.exec(statements + QStringLiteral(" AND CompID = ?"),
+                               {asstId, options.quarter, *compId});
+            if (!query.next())
+                return refuse(store, *compId, GenerationFlow::notSavedText);
             targets.append({query.value(0).toInt(), *compId});
         }
         while (options.all && query.next())
             targets.append({query.value(0).toInt(), query.value(1).toInt()});
         query.finish();
     } catch (const StoreError &error) {
-        m_err << "kelvora-returns: the data store " << QDir::toNativeSeparators(options.storePath)
-              << " cannot be opened: " << error.description() << '\n';
-        return UsageError;
+        m_err << "kelvora-returns: " << error.description() << '\n';
+        return StoreFailure;
     }
 
-    int generated = 0;
-    int refused = 0;
-    for (const Target &target : targets) {
-        if (generateOne(*store, *form, options.quarter, target, options.output, now))
-            ++generated;
-        else
-            ++refused;
+    QMap<Status, int> counts;
+    for (const Target &target : targets)
+        ++counts[generateOne(*opened.store, *form, options.quarter, target, options.output, now)];
+    if (options.all) {
+        m_out << "generated " << counts.value(AllWritten) << ", refused "
+              << counts.value(Refused) << ", failed " << counts.value(StoreFailure) << '\n';
     }
-    if (options.all)
-        m_out << "generated " << generated << ", refused " << refused << '\n';
     m_out.flush();
-    return refused == 0 ? AllWritten : Refused;
+    return counts.value(StoreFailure) > 0 ? StoreFailure
+           : counts.value(Refused) > 0    ? Refused
+                                          : AllWritten;
 }
 
-bool BatchGeneration::generateOne(const DataStore &store, const FormTraits &form,
-                                  const QString &quarter, const Target &target,
-                                  const QString &output, const QDateTime &now)
+BatchGeneration::Status BatchGeneration::generateOne(const DataStore &store,
+                                                     const FormTraits &form,
+                                                     const QString &quarter,
+                                                     const Target &target,
+                                                     const QString &output, const QDateTime &now)
 {
     try {
         QSqlQuery statement = store.exec(
@@ -218,10 +225,8 @@ bool BatchGeneration::generateOne(const DataStore &store, const FormTraits &form
 
         const GenerationFlow flow(store, form);
         GenerationPreparation preparation = flow.prepare(request);
-        if (preparation.failure) {
-            refuse(store, target.compId, preparation.failure->message.text);
-            return false;
-        }
+        if (preparation.failure)
+            return refuse(store, target.compId, preparation.failure->message.text);
         GenerationPanel &panel = *preparation.panel;
         if (!output.isEmpty())
             panel.fileName = QFileInfo(output).absoluteFilePath();
@@ -229,32 +234,31 @@ bool BatchGeneration::generateOne(const DataStore &store, const FormTraits &form
         // Two companies with the same prefix would silently share one file.
         const QString key = QFileInfo(panel.fileName).absoluteFilePath();
         if (m_written.contains(key)) {
-            refuse(store, target.compId,
-                   QStringLiteral("%1 has already been written for another company in this run;"
-                                  " give the companies different file prefixes")
-                       .arg(QDir::toNativeSeparators(key)));
-            return false;
+            return refuse(store, target.compId,
+                          QStringLiteral("%1 has already been written for another company in "
+                                         "this run; give the companies different file prefixes")
+                              .arg(QDir::toNativeSeparators(key)));
         }
 
-        QuietBoxes boxes;
+    QuietBoxes boxes;
         const GenerationResult result = flow.generate(panel, 0, boxes, now,
                                                       GenerationFlow::Confirmation::Given);
         if (result.outcome != GenerationOutcome::Generated) {
-            refuse(store, target.compId, result.error);
-            return false;
+            return refuse(store, target.compId, result.error,
+                          result.outcome == GenerationOutcome::Refused ? Refused : StoreFailure);
         }
         m_written.insert(key);
         m_out << QDir::toNativeSeparators(panel.fileName) << "\tchallans "
               << result.summary.challans << "\tdeductee rows " << result.summary.annexureRows
               << "\tdeposited " << result.summary.deposited.toText() << '\n';
-        return true;
+        return AllWritten;
     } catch (const StoreError &error) {
-        refuse(store, target.compId, error.description());
-        return false;
+        return refuse(store, target.compId, error.description(), StoreFailure);
     }
 }
 
-void BatchGeneration::refuse(const DataStore &store, int compId, const QString &message)
+BatchGeneration::Status BatchGeneration::refuse(const DataStore &store, int compId,
+                                                const QString &message, Status status)
 {
     QString name;
     QString tan;
@@ -269,6 +273,7 @@ void BatchGeneration::refuse(const DataStore &store, int compId, const QString &
         // The refusal is still told, with the company's id alone.
     }
     // One line per Statement: the line break of the deductee-count message is folded.
-    m_out << "refused\t" << name << " (company " << compId << ", TAN " << tan << ")\t"
-          << message.simplified() << '\n';
+    m_err << (status == Refused ? "refused\t" : "failed\t") << name << " (company " << compId
+          << ", TAN " << tan << ")\t" << message.simplified() << '\n';
+    return status;
 }

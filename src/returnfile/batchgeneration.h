@@ -13,13 +13,18 @@ struct FormTraits;
 /**
  * The batch front end: the return files of saved Statements, without a screen. The command line
  * is the user's confirmation; each Statement goes through the same checks, log row and writer as
- * on its statement screen, and each gives one line of output.
+ * on its statement screen, and each gives one line: a written file on the output stream, a
+ * refusal or a failure on the error stream. The store is used under its lock, as the program
+ * uses it.
  */
 class BatchGeneration
 {
 public:
-    /// The program's exit status.
-    enum Status { AllWritten = 0, Refused = 1, UsageError = 2 };
+    /// The program's exit status; of several Statements, the highest.
+    enum Status { AllWritten = 0, Refused = 1, UsageError = 2, StoreFailure = 3 };
+
+    /// How long a run waits for a store that another program holds, unless told.
+    static constexpr int defaultWaitSeconds = 30;
 
     struct Options
     {
@@ -29,6 +34,7 @@ public:
         QString company;  ///< CompID, or the TAN
         QString output;   ///< the file to write instead of the usual name; one Statement only
         bool all = false;
+        int waitSeconds = defaultWaitSeconds;
     };
 
     /// Reads the arguments (the program's name first); on a usage error returns none and puts
@@ -50,9 +56,11 @@ private:
         int compId = 0;
     };
 
-    bool generateOne(const DataStore &store, const FormTraits &form, const QString &quarter,
-                     const Target &target, const QString &output, const QDateTime &now);
-    void refuse(const DataStore &store, int compId, const QString &message);
+    Status generateOne(const DataStore &store, const FormTraits &form, const QString &quarter,
+                       const Target &target, const QString &output, const QDateTime &now);
+    /// Tells why a Statement gave no file, on the error stream; returns @p status.
+    Status refuse(const DataStore &store, int compId, const QString &message,
+                  Status status = Refused);
 
     QTextStream &m_out;
     QTextStream &m_err;

@@ -2,6 +2,7 @@
 
 #include "core/datastore.h"
 #include "core/messageboxes.h"
+#include "core/namepart.h"
 #include "core/numbers.h"
 #include "core/records.h"
 #include "core/startup.h"
@@ -65,6 +66,13 @@ QString GenerationFlow::deducteeCountText(const QString &declared, int entered)
            + QStringLiteral(" record(s).");
 }
 
+QString GenerationFlow::filePrefixText(const QString &companyName, const QString &filePrefix)
+{
+    return QStringLiteral("The File Name Prefix \"%1\" of the company %2 may hold letters and "
+                          "digits only: the return file is named by it.")
+        .arg(filePrefix, companyName);
+}
+
 QString GenerationFlow::fileNameFor(const QString &storeFolder, const QString &filePrefix,
                                     const QString &formType, const QString &quarter)
 {
@@ -91,9 +99,13 @@ GenerationPreparation GenerationFlow::prepare(const GenerationRequest &request,
     if (numbers::val(request.declaredChallans) == 0)
         return {failure(noChallanText, QStringLiteral("txtNoChallan")), {}};
 
-    const QString filePrefix = textOf(
-        m_store, QStringLiteral("SELECT FilePrefix FROM mstCompany WHERE CompID = ?"),
+    QSqlQuery company = m_store.exec(
+        QStringLiteral("SELECT FilePrefix, CompName FROM mstCompany WHERE CompID = ?"),
         {request.compId});
+    const bool found = company.next();
+    const QString filePrefix = found ? records::nullToText(company.value(0)) : QString();
+    const QString companyName = found ? records::nullToText(company.value(1)) : QString();
+    company.finish();
 
     if (basicInfoId == 0)
         return {failure(notSavedText), {}};
@@ -101,6 +113,10 @@ GenerationPreparation GenerationFlow::prepare(const GenerationRequest &request,
     // What stands on the screen is saved before the panel shows what will be generated.
     if (save && !save())
         return {};
+
+    // The prefix names a file: "/" or "../" would put it outside the folder of returns.
+    if (!isPlainNamePart(filePrefix.left(prefixLength)))
+        return {failure(filePrefixText(companyName, filePrefix)), {}};
 
     GenerationPanel panel;
     panel.groupId = request.groupId;
@@ -199,7 +215,9 @@ GenerationResult GenerationFlow::generate(const GenerationPanel &panel, int open
         result.summary =
             writeReturnFile(m_store, m_form, panel.basicInfoId, fileName, now.date());
     } catch (const ReturnFileError &error) {
-        return fail(GenerationOutcome::FileFailed, error.message());
+        return fail(error.cause() == ReturnFileError::Cause::Value ? GenerationOutcome::Refused
+                                                                  : GenerationOutcome::FileFailed,
+                    error.message());
     } catch (const StoreError &error) {
         return fail(GenerationOutcome::FileFailed, error.description());
     }

@@ -57,7 +57,8 @@ struct GenerationPreparation
     std::optional<GenerationPanel> panel;
 };
 
-enum class GenerationOutcome { Declined, LogFailed, FileFailed, Generated };
+/// Refused: a value of the Statement that the file cannot carry; FileFailed: the file system.
+enum class GenerationOutcome { Declined, LogFailed, FileFailed, Refused, Generated };
 
 struct GenerationResult
 {
@@ -96,10 +97,14 @@ public:
     /// The text of the declared deductee count that differs from the rows entered.
     static QString deducteeCountText(const QString &declared, int entered);
 
+    /// The refusal of a file prefix that cannot go into a file name.
+    static QString filePrefixText(const QString &companyName, const QString &filePrefix);
+
     /**
      * The return file's path: the first three characters of the prefix, the form, the quarter
      * and ".txt", in eReturns beside the data store, or beside the store itself when eReturns
-     * cannot be opened. The folder is not created here.
+     * cannot be opened. The folder is not created here, and the prefix is taken as checked
+     * (isPlainNamePart).
      */
     static QString fileNameFor(const QString &storeFolder, const QString &filePrefix,
                                const QString &formType, const QString &quarter);

@@ -8,13 +8,18 @@
 class ReturnFileError : public std::runtime_error
 {
 public:
-    explicit ReturnFileError(const QString &message)
-        : std::runtime_error(message.toStdString()), m_message(message)
+    /// A value refuses the Statement; the file system fails the generation.
+    enum class Cause { Value, FileSystem };
+
+    explicit ReturnFileError(const QString &message, Cause cause = Cause::Value)
+        : std::runtime_error(message.toStdString()), m_message(message), m_cause(cause)
     {
     }
 
     QString message() const { return m_message; }
+    Cause cause() const { return m_cause; }
 
 private:
     QString m_message;
+    Cause m_cause;
 };

@@ -12,6 +12,7 @@
 #include "returnfile/sourcerows.h"
 #include "core/formtraits.h"
 
+#include <QFileInfo>
 #include <QList>
 #include <QSaveFile>
 
@@ -25,6 +26,16 @@ class ReturnFileOutput
 public:
     explicit ReturnFileOutput(const QString &path) : m_file(path)
     {
+        // The file is put in place by a rename, which would replace a device, a pipe or a
+        // link to one with a plain file.
+        const QFileInfo target(path);
+        if (target.exists() && !target.isFile()) {
+            throw ReturnFileError(
+                QStringLiteral("The return file %1 could not be written: that name is not a "
+                               "plain file, and it is left as it is.")
+                    .arg(path),
+                ReturnFileError::Cause::FileSystem);
+        }
         if (!m_file.open(QIODevice::WriteOnly))
             fail();
     }
@@ -40,7 +51,8 @@ public:
 
     void commit()
     {
-        if (!m_file.commit())
+        // Flushed first: the commit's own failure would lose the system's reason (a full disk).
+        if (!m_file.flush() || !m_file.commit())
             fail();
     }
 
@@ -50,7 +62,8 @@ private:
         const QString reason = m_file.errorString();
         m_file.cancelWriting();
         throw ReturnFileError(QStringLiteral("The return file %1 could not be written: %2")
-                                  .arg(m_file.fileName(), reason));
+                                  .arg(m_file.fileName(), reason),
+                              ReturnFileError::Cause::FileSystem);
     }
 
     QSaveFile m_file;

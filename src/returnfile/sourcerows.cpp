@@ -84,7 +84,7 @@ QDate SourceRows::date(const QString &column) const
         return {};
     const QDate date = QDate::fromString(text.left(10), Qt::ISODate);
     if (!date.isValid())
-        refuse(column, QStringLiteral("\"%1\", which is not a date").arg(text));
+        refuse(column, QStringLiteral("it is not a date"));
     return date;
 }
 
@@ -104,20 +104,34 @@ void SourceRows::checkText(const QString &column, const QString &text) const
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar ch = text.at(i);
         if (ch == u'^')
-            refuse(column, QStringLiteral("\"^\", which separates the fields of the file"));
+            refuse(column, QStringLiteral("\"^\" separates the fields of the file"));
         if (ch == u'\r' || ch == u'\n')
-            refuse(column, QStringLiteral("a line break, which would split its line in two"));
+            refuse(column, QStringLiteral("a line break would split its line in two"));
+        if (ch.category() == QChar::Other_Control) {
+            refuse(column, QStringLiteral("the control character %1 has no place in the file")
+                               .arg(visible(ch)));
+        }
         if (ch.unicode() > 0xff) {
             const qsizetype length = ch.isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
-            refuse(column, QStringLiteral("\"%1\", which the file's single-byte text cannot hold")
+            refuse(column, QStringLiteral("\"%1\" is beyond the file's single-byte text")
                                .arg(text.mid(i, length)));
         }
     }
 }
 
-void SourceRows::refuse(const QString &column, const QString &what) const
+QString SourceRows::visible(QChar ch)
 {
+    return QStringLiteral("<U+%1>").arg(ch.unicode(), 4, 16, QLatin1Char('0')).toUpper();
+}
+
+void SourceRows::refuse(const QString &column, const QString &why) const
+{
+    // The whole stored value, not only the part that goes out, its control characters made
+    // visible, so that the user can find it.
+    QString shown;
+    for (const QChar ch : value(column).toString())
+        shown += ch.category() == QChar::Other_Control ? visible(ch) : QString(ch);
     throw ReturnFileError(QStringLiteral("The return file was not written: %1 of %2 (%3 %4) "
-                                         "holds %5.")
-                              .arg(column, m_table, m_keyColumn, key(), what));
+                                         "holds \"%5\", and %6.")
+                              .arg(column, m_table, m_keyColumn, key(), shown, why));
 }

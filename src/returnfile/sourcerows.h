@@ -9,8 +9,9 @@
 /**
  * The rows of one table as the return file reads them, one at a time: values by column name,
  * and every text checked for what the file cannot carry (a "^", which separates its fields, a
- * line break, a character outside its single-byte encoding). A refusal is a ReturnFileError that
- * names the table, the row's key and the column.
+ * line break or any other control character, a character outside its single-byte encoding). A
+ * refusal is a ReturnFileError that names the table, the row's key and the column, and quotes
+ * the whole value.
  */
 class SourceRows
 {
@@ -41,7 +42,9 @@ public:
 
 private:
     int indexOf(const QString &column) const;
-    [[noreturn]] void refuse(const QString &column, const QString &what) const;
+    [[noreturn]] void refuse(const QString &column, const QString &why) const;
+    /// A control character as the message shows it: "<U+0009>".
+    static QString visible(QChar ch);
 
     QSqlQuery m_query;
     QString m_table;

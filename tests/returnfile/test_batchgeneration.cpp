@@ -1,3 +1,4 @@
+#include "core/storelock.h"
 #include "generationstore.h"
 #include "support/testsuite.h"
 
@@ -50,7 +51,7 @@ private slots:
 
     void runs_data()
     {
-        // out: lines joined by "|", DIR for the store's folder
+        // out: lines joined by "|", DIR for the store's folder; err: a part of the error stream
         testsuite::columns<QString, int, QString, QString>("arguments", "exitCode", "out", "err");
         const QString written = "DIR/eReturns/KAV26QQ2.txt\tchallans 2\tdeductee rows 7\t"
                                 "deposited 1003.00";
@@ -58,19 +59,20 @@ private slots:
                                 "specified to enter 3 deductee record(s), but have entered only "
                                 "1 record(s).";
         const auto row = [](const char *name, const char *arguments, int exitCode,
-                            const QString &out, const char *err = "") {
+                            const QString &out, const QString &err = {}) {
             QTest::newRow(name) << QString::fromLatin1(arguments) << exitCode << out << err;
         };
         row("company by TAN", "--form 26q --quarter q2 --company blrk01234e", 0, written);
         row("output chosen", "--form 26Q --quarter Q2 --company 11 --output DIR/k2.txt", 0,
             "DIR/k2.txt\tchallans 2\tdeductee rows 7\tdeposited 1003.00");
-        row("refused", "--form 26Q --quarter Q2 --company 12", 1, refused);
-        row("no saved Statement", "--form 27Q --quarter Q2 --company 11", 1,
+        row("refused", "--form 26Q --quarter Q2 --company 12", 1, "", refused);
+        row("no saved Statement", "--form 27Q --quarter Q2 --company 11", 1, "",
             "refused\tKAVERI TEXTILES LTD (company 11, TAN BLRK01234E)\tYou need to save the "
-            "Form before generating the Kelvora file");
+            "Form before generating the Kelvora file\n");
         row("all of a quarter", "--form 26Q --quarter Q2 --all", 1,
-            written + '|' + refused + "|generated 1, refused 1");
-        row("an empty quarter", "--form 26Q --quarter Q3 --all", 0, "generated 0, refused 0");
+            written + "|generated 1, refused 1, failed 0", refused);
+        row("an empty quarter", "--form 26Q --quarter Q3 --all", 0,
+            "generated 0, refused 0, failed 0");
         row("unknown form", "--form 28Q --quarter Q2 --all", 2, "", "--form must be");
         row("company and all", "--form 26Q --quarter Q2 --company 11 --all", 2, "",
             "either --company or --all");
@@ -95,7 +97,7 @@ private slots:
         QVERIFY2(errors.contains(err), qPrintable(errors));
         int written = 0;
         for (const QString &line : out.split(u'|', Qt::SkipEmptyParts))
-            written += !line.startsWith(u"refused") && !line.startsWith(u"generated");
+            written += !line.startsWith(u"generated");
         QCOMPARE(m_data.count("FileGenerationLog"), logRows + written);
         QCOMPARE(QFile::exists(m_data.folder() + "/eReturns/KAV26QQ2.txt"),
                  out.startsWith("DIR/eReturns"));
@@ -113,11 +115,31 @@ private slots:
                  m_data.folder() + "/eReturns/KAV26QQ2.txt|3|Form -26Q|Q2|0|700.0");
     }
 
-    void missingStore()
+    // A store the front end cannot use is a failure of its own, told as the program's start
+    // tells it, and nothing is written.
+    void storeRefusals_data()
     {
-        const Run run = this->run("--form 26Q --quarter Q2 --all", m_data.folder() + "/none.db");
-        QCOMPARE(run.exitCode, 2);
-        QVERIFY2(run.err.contains("cannot be opened"), qPrintable(run.err));
+        testsuite::columns<QString, QString>("store", "err");
+        QTest::newRow("missing") << "none.db" << "Could not find file";
+        QTest::newRow("empty file") << "empty.db" << "empty.db is not a Kelvora data store.";
+        QTest::newRow("in use") << DataStore::fileName
+                                << "is in use by " + QCoreApplication::applicationName();
+    }
+    void storeRefusals()
+    {
+        QFETCH(QString, store);
+        QFETCH(QString, err);
+        const TestStore data(m_data);
+        QFile(data.folder() + "/empty.db").open(QIODevice::WriteOnly);
+        StoreLock lock(data.store().path());
+        QVERIFY(lock.take());
+        const Run run =
+            this->run("--form 26Q --quarter Q2 --all --wait 0", data.folder() + '/' + store);
+        QCOMPARE(run.exitCode, 3);
+        QVERIFY2(run.out.isEmpty() && run.err.contains(err), qPrintable(run.err));
+        QCOMPARE(QDir(data.folder()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+                 (QStringList{"empty.db", DataStore::fileName, "Kelvora.db.lock"}));
+        QCOMPARE(QFileInfo(data.folder() + "/empty.db").size(), 0);
     }
 
     // Two companies without a prefix share a file name: the second is refused, not written
@@ -135,9 +157,8 @@ private slots:
         const auto [code, lines, errors] =
             run("--form 26Q --quarter Q1 --all", data.store().path());
         QCOMPARE(code, 1);
-        const QStringList out = lines.split(u'|');
-        QVERIFY(out.value(0).startsWith(data.folder() + "/eReturns/26QQ1.txt\t"));
-        QVERIFY(out.value(1).startsWith("refused\tSECOND LTD (company 22, TAN DELS02222E)"));
+        QVERIFY(lines.startsWith(data.folder() + "/eReturns/26QQ1.txt\t"));
+        QVERIFY(errors.startsWith("refused\tSECOND LTD (company 22, TAN DELS02222E)"));
         QCOMPARE(data.text("SELECT group_concat(CompID) FROM FileGenerationLog"), "21");
     }
 

@@ -52,10 +52,17 @@ private slots:
         };
         row("caret in a deductee's name", "26q_positive",
             "UPDATE TranDeducteeE26 SET DeducteeName = 'A^B' WHERE DeducteeID = 21",
-            "DeducteeName of TranDeducteeE26 (DeducteeID 21)", "\"^\"");
+            "DeducteeName of TranDeducteeE26 (DeducteeID 21)", "holds \"A^B\", and \"^\"");
+        row("NUL in a deductee's name", "26q_positive",
+            "UPDATE TranDeducteeE26 SET DeducteeName = 'RAM' || char(0) || 'LAL' "
+            "WHERE DeducteeID = 21",
+            "DeducteeName of TranDeducteeE26 (DeducteeID 21)", "holds \"RAM<U+0000>LAL\"");
+        row("tab in the remarks", "26q_positive",
+            "UPDATE TranChallanE26 SET Remarks = 'A' || char(9) || 'B' WHERE ChallnID = 12",
+            "Remarks of TranChallanE26 (ChallnID 12)", "control character <U+0009>");
         row("euro sign, which Latin-1 has not", "24q_salary",
             QStringLiteral("UPDATE TranSalaryE24 SET EmpName = 'LATA €' WHERE SalaryId = 2"),
-            "EmpName of TranSalaryE24 (SalaryId 2)", QStringLiteral("\"€\""));
+            "EmpName of TranSalaryE24 (SalaryId 2)", QStringLiteral("\"LATA €\", and \"€\""));
         row("character beyond two bytes", "27q_grossing_up",
             QStringLiteral("UPDATE TranDeducteeE27 SET PANRef = 'R😀' WHERE DeducteeID = 23"),
             "PANRef of TranDeducteeE27 (DeducteeID 23)", QStringLiteral("\"😀\""));

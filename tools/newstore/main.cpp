@@ -54,7 +54,7 @@ int main(int argc, char *argv[])
         freshstore::create(path, year);
     } catch (const StoreError &error) {
         err << "kelvora-newstore: " << error.description() << '\n';
-        return 1;
+        return 3;
     }
     QTextStream(stdout) << "Created " << path << " for the financial year " << year << '-'
                         << QString::number(year + 1).right(2) << '\n';
