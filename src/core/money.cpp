@@ -2,8 +2,6 @@
 
 #include "core/numbers.h"
 
-#include <QLocale>
-
 #include <cmath>
 #include <optional>
 
@@ -24,18 +22,6 @@ qint64 paiseOfDecimal(const QString &text)
     if (fraction.at(2) >= u'5')
         ++paise;
     return negative ? -paise : paise;
-}
-
-/// The shortest decimal text of a stored number, which is the text it was typed as; a stored
-/// text that is not a number is read the way the program reads typed amounts.
-QString decimalText(const QVariant &value)
-{
-    bool ok = false;
-    double number = value.toDouble(&ok);
-    if (!ok)
-        number = numbers::val(value.toString());
-    // 'f' with the shortest precision never falls into exponent notation.
-    return QString::number(number, 'f', QLocale::FloatingPointShortest);
 }
 
 /// Most stored amounts are whole rupees; they need no reading of decimal digits.
@@ -89,7 +75,7 @@ Money Money::fromStored(const QVariant &value)
         if (std::abs(hundredfold - nearest) < 1e-6 && std::abs(nearest) < 1e15)
             return Money(static_cast<qint64>(nearest));
     }
-    return Money(paiseOfDecimal(decimalText(value)));
+    return Money(paiseOfDecimal(numbers::decimalText(value)));
 }
 
 Money Money::roundedFromStored(const QVariant &value)
@@ -98,7 +84,7 @@ Money Money::roundedFromStored(const QVariant &value)
         return {};
     if (const std::optional<qint64> rupees = wholeRupees(value))
         return fromRupees(*rupees);
-    QString digits = decimalText(value);
+    QString digits = numbers::decimalText(value);
     const bool negative = digits.startsWith(u'-');
     if (negative)
         digits.remove(0, 1);

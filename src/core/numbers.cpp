@@ -1,6 +1,7 @@
 #include "core/numbers.h"
 
 #include <QLocale>
+#include <QVariant>
 
 #include <cmath>
 
@@ -101,6 +102,16 @@ double roundAmount(double amount, int digits)
         ++hundredths;
     const int decider = QString::number(hundredths).left(digits).toInt();
     return decider >= 50 ? whole + 1 : whole;
+}
+
+QString decimalText(const QVariant &value)
+{
+    bool ok = false;
+    double number = value.toDouble(&ok);
+    if (!ok)
+        number = val(value.toString());
+    // 'f' with the shortest precision never falls into exponent notation.
+    return QString::number(number, 'f', QLocale::FloatingPointShortest);
 }
 
 } // namespace numbers

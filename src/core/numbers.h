@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QVariant;
+
 /// The number rules of the program: how typed text is read as a number, and how amounts round.
 namespace numbers {
 
@@ -19,5 +21,12 @@ double val(const QString &text);
  * decimal text, so a typed 2.995 behaves as .995 whatever its binary value. @p digits 0 means 2.
  */
 double roundAmount(double amount, int digits = 0);
+
+/// The shortest decimal text of a stored number ("2.675", "-12", never an exponent), which is
+/// the text it was typed as; a stored text that is not a number is read as val() reads it.
+QString decimalText(const QVariant &value);
+
+/// What a whole number that leaves its range stops with, as the platform has always said it.
+inline constexpr char overflowMessage[] = "Overflow";
 
 } // namespace numbers

@@ -1,31 +1,35 @@
 #include "core/wholerupeesum.h"
 
+#include "core/numbers.h"
+
 #include <cmath>
+#include <limits>
 #include <stdexcept>
 
 namespace numbers {
 
 namespace {
 
-// Beyond this a double no longer holds every whole rupee, so a sum could not be kept exact.
-constexpr double largestExactWhole = 9007199254740992.0; // 2^53
+// An amount this large leaves the 32-bit range whatever the sum; refusing it at once also keeps
+// the conversion below defined.
+constexpr double beyondAnySum = 4294967296.0; // 2^32
 
 } // namespace
 
-qint64 addWholeRupees(qint64 sum, double amount)
+qint32 addWholeRupees(qint32 sum, double amount)
 {
-    if (!std::isfinite(amount) || std::fabs(amount) > largestExactWhole)
-        throw std::range_error("Overflow");
+    if (!std::isfinite(amount) || std::fabs(amount) >= beyondAnySum)
+        throw std::range_error(overflowMessage);
     // The whole part and the rest are taken apart exactly, so the decision between rounding up
     // and down depends on the amount alone and not on how large the sum has grown.
     const double whole = std::floor(amount);
     const double rest = amount - whole;
-    qint64 result = sum + static_cast<qint64>(whole);
+    qint64 result = qint64(sum) + static_cast<qint64>(whole);
     if (rest > 0.5 || (rest == 0.5 && result % 2 != 0))
         ++result;
-    if (std::fabs(static_cast<double>(result)) > largestExactWhole)
-        throw std::range_error("Overflow");
-    return result;
+    if (result < std::numeric_limits<qint32>::min() || result > std::numeric_limits<qint32>::max())
+        throw std::range_error(overflowMessage);
+    return static_cast<qint32>(result);
 }
 
 } // namespace numbers

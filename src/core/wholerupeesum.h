@@ -7,10 +7,10 @@ namespace numbers {
 /**
  * One step of Form 24Q's control-total sums: the amount is added to a running whole-rupee sum
  * and the result is brought back to whole rupees at once, half to even, so fractions are rounded
- * away row by row (10 + 10.4 gives 20, 10 + 0.5 gives 10, 11 + 0.5 gives 12). The sum is held in
- * 64 bits, so a large employer's challan does not run out of room.
- * Throws std::range_error for an amount that is not finite or beyond 2^53 rupees.
+ * away row by row (10 + 10.4 gives 20, 10 + 0.5 gives 10, 11 + 0.5 gives 12). The sum is a
+ * 32-bit whole number, as it has always been in this form: a result beyond its range throws
+ * std::range_error with numbers::overflowMessage, as does an amount that is not finite.
  */
-qint64 addWholeRupees(qint64 sum, double amount);
+qint32 addWholeRupees(qint32 sum, double amount);
 
 } // namespace numbers

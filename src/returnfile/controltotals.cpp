@@ -11,7 +11,7 @@ namespace {
 
 struct WholeRupeeTotals
 {
-    std::array<qint64, 5> sums{};
+    std::array<qint32, 5> sums{};
 
     void add(const AnnexureListRow &row)
     {
@@ -37,17 +37,18 @@ ChallanControlTotals sumChallanRows(const FormTraits &form, const QList<Annexure
         WholeRupeeTotals whole;
         for (const AnnexureListRow &row : rows)
             whole.add(row);
-        return {Money::fromRupees(whole.sums[0]), Money::fromRupees(whole.sums[1]),
-                Money::fromRupees(whole.sums[2]), Money::fromRupees(whole.sums[3]),
-                Money::fromRupees(whole.sums[4])};
+        return {ExactAmount::fromRupees(whole.sums[0]), ExactAmount::fromRupees(whole.sums[1]),
+                ExactAmount::fromRupees(whole.sums[2]), ExactAmount::fromRupees(whole.sums[3]),
+                ExactAmount::fromRupees(whole.sums[4])};
     }
+    // The amounts as they were typed, summed without rounding: the CD record formats the sum.
     ChallanControlTotals totals;
     for (const AnnexureListRow &row : rows) {
-        totals.totTax += Money::fromText(row.taxAmount);
-        totals.totIncomeTax += Money::fromText(row.tax);
-        totals.totSurcharge += Money::fromText(row.surcharge);
-        totals.totCess += Money::fromText(row.cess);
-        totals.ctrlTot += Money::fromText(row.total);
+        totals.totTax += ExactAmount::fromText(row.taxAmount);
+        totals.totIncomeTax += ExactAmount::fromText(row.tax);
+        totals.totSurcharge += ExactAmount::fromText(row.surcharge);
+        totals.totCess += ExactAmount::fromText(row.cess);
+        totals.ctrlTot += ExactAmount::fromText(row.total);
     }
     return totals;
 }
@@ -58,9 +59,9 @@ ChallanControlTotals calculateChallanControlTotal(const DataStore &store, const 
 {
     const ChallanControlTotals totals = sumChallanRows(form, rows);
     // 24Q keeps these columns as whole numbers; the other forms as amounts with their paise.
-    const auto stored = [&form](Money amount) -> QVariant {
+    const auto stored = [&form](const ExactAmount &amount) -> QVariant {
         if (form.kind == FormKind::Form24Q)
-            return amount.paise() / 100;
+            return amount.roundedToRupees().paise() / 100;
         return amount.toDouble();
     };
     store.exec(QStringLiteral("UPDATE %1 SET TotTax = ?, TotIncomeTax = ?, TotSurcharge = ?, "

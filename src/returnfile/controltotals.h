@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/money.h"
+#include "core/exactamount.h"
 
 #include <QList>
 #include <QString>
@@ -21,11 +21,11 @@ struct AnnexureListRow
 /// The five control totals of a challan, which the CD record carries unrounded.
 struct ChallanControlTotals
 {
-    Money totTax;
-    Money totIncomeTax;
-    Money totSurcharge;
-    Money totCess;
-    Money ctrlTot;
+    ExactAmount totTax;
+    ExactAmount totIncomeTax;
+    ExactAmount totSurcharge;
+    ExactAmount totCess;
+    ExactAmount ctrlTot;
 
     bool operator==(const ChallanControlTotals &) const = default;
 };
@@ -40,15 +40,16 @@ struct ChallanKey
 
 /**
  * The control totals of a challan from the rows of its list, each amount read as typed
- * (numbers::val). Form 24Q sums in whole rupees, rounding half to even after every row; the
- * other forms keep the exact sum in paise.
+ * (numbers::val). Form 24Q sums in 32-bit whole rupees, rounding half to even after every row;
+ * the other forms keep the exact sum, paise and beyond. Throws std::range_error when a 24Q sum
+ * leaves the 32-bit range.
  */
 ChallanControlTotals sumChallanRows(const FormTraits &form, const QList<AnnexureListRow> &rows);
 
 /**
  * Writes the control totals of the rows to the challan, found by its id, Statement and company.
  * An empty list sets all five to 0. Returns the totals written; throws StoreError, or
- * std::range_error for an amount too large to sum.
+ * std::range_error for a sum out of range.
  */
 ChallanControlTotals calculateChallanControlTotal(const DataStore &store, const FormTraits &form,
                                                   const ChallanKey &challan,

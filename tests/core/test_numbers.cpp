@@ -123,36 +123,39 @@ private slots:
         QVERIFY(!std::signbit(result) || rounded < 0); // never a negative zero on screen
     }
 
-    // Form 24Q's sums: each row is added and the sum brought to whole rupees, half to even.
+    // Form 24Q's sums: each row is added and the sum brought to whole rupees, half to even, in
+    // 32 bits.
     void addWholeRupees_data()
     {
-        testsuite::columns<qint64, double, qint64>("sum", "amount", "result");
-        const QList<std::tuple<qint64, double, qint64>> rows = {
+        testsuite::columns<qint32, double, qint32>("sum", "amount", "result");
+        const QList<std::tuple<qint32, double, qint32>> rows = {
             {0, 10.4, 10}, {10, 0.5, 10}, {11, 0.5, 12}, {1, 2.5, 4}, {7, 0.49, 7},
             {7, 0.51, 8}, {0, 2.495, 2}, {0, -1.5, -2}, {3, -0.5, 2},
-            // A large employer's monthly tax passes the 32-bit range.
-            {2147483647, 1.4, 2147483648}, {4294967296, 0.5, 4294967296}};
+            {2147483646, 1.4, 2147483647}, {2147483645, 1.5, 2147483646},
+            {-2147483647, -1.5, -2147483648}, {-2147483648, 4294967295.0, 2147483647}};
         for (const auto &[sum, amount, result] : rows)
-            QTest::addRow("%lld + %g", sum, amount) << sum << amount << result;
+            QTest::addRow("%d + %g", sum, amount) << sum << amount << result;
     }
     void addWholeRupees()
     {
-        QFETCH(qint64, sum);
+        QFETCH(qint32, sum);
         QFETCH(double, amount);
         QTEST(numbers::addWholeRupees(sum, amount), "result");
     }
 
     void wholeRupeeSumRefuses_data()
     {
-        testsuite::columns<qint64, double>("sum", "amount");
-        QTest::newRow("infinity") << 0ll << std::numeric_limits<double>::infinity();
-        QTest::newRow("not a number") << 0ll << std::numeric_limits<double>::quiet_NaN();
-        QTest::newRow("typed 1e300") << 0ll << 1e300;
-        QTest::newRow("sum passes 2^53") << 9007199254740990ll << 10.0;
+        testsuite::columns<qint32, double>("sum", "amount");
+        QTest::newRow("infinity") << 0 << std::numeric_limits<double>::infinity();
+        QTest::newRow("not a number") << 0 << std::numeric_limits<double>::quiet_NaN();
+        QTest::newRow("typed 1e300") << 0 << 1e300;
+        QTest::newRow("past 2147483647") << 2147483647 << 1.0;
+        QTest::newRow("a half that rounds past it") << 2147483646 << 1.5;
+        QTest::newRow("below -2147483648") << -2147483647 << -1.6;
     }
     void wholeRupeeSumRefuses()
     {
-        QFETCH(qint64, sum);
+        QFETCH(qint32, sum);
         QFETCH(double, amount);
         QVERIFY_THROWS_EXCEPTION(std::range_error, numbers::addWholeRupees(sum, amount));
     }

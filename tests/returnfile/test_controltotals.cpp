@@ -3,6 +3,8 @@
 #include "returnfile/generationlog.h"
 #include "support/testsuite.h"
 
+#include <stdexcept>
+
 
 Q_DECLARE_METATYPE(FormKind)
 
@@ -30,36 +32,50 @@ class TestControlTotals : public QObject
     Q_OBJECT
 
 private slots:
-    // Form 24Q rounds to whole rupees after each row, half to even; the others keep the paise.
+    // Form 24Q rounds to whole rupees after each row, half to even, in 32 bits; the others
+    // keep the exact sum, paise and beyond.
     void sumChallanRows_data()
     {
-        testsuite::columns<FormKind, QList<AnnexureListRow>, QList<qint64>>("kind", "rows",
-                                                                            "paise");
+        testsuite::columns<FormKind, QList<AnnexureListRow>, QStringList>("kind", "rows", "sums");
         const QList<AnnexureListRow> twice104 = {same("10.4"), same("10.4")};
         const QList<AnnexureListRow> halves = {same("2.5"), same("2.5"), same("3.5")};
         // Each column feeds its own total; texts are read as typed amounts are.
         const QList<AnnexureListRow> typed = {{"1,000", "12abc", "", " 5 0", "101.5"},
                                               {"0.20", "", "x", "", "5"}};
         const QList<AnnexureListRow> tenths(1000, same("0.10"));
-        using P = QList<qint64>;
-        QTest::newRow("24Q rows") << FormKind::Form24Q << twice104 << P(5, 2000);
-        QTest::newRow("26Q rows") << FormKind::Form26Q << twice104 << P(5, 2080);
-        QTest::newRow("24Q halves") << FormKind::Form24Q << halves << P(5, 800);
-        QTest::newRow("27EQ halves") << FormKind::Form27EQ << halves << P(5, 850);
-        QTest::newRow("26Q typed") << FormKind::Form26Q << typed << P{120, 1200, 0, 5000, 10650};
-        QTest::newRow("24Q typed") << FormKind::Form24Q << typed << P{100, 1200, 0, 5000, 10700};
-        QTest::newRow("26Q a thousand tenths") << FormKind::Form26Q << tenths << P(5, 10000);
-        QTest::newRow("24Q no rows") << FormKind::Form24Q << QList<AnnexureListRow>() << P(5, 0);
+        const QList<AnnexureListRow> pastPaise = {{"0.255", "0.005", "", "", ""},
+                                                  {"0.245", "0.005", "", "", ""}};
+        const QList<AnnexureListRow> past32Bits = {same("2147483647"), same("0.5")};
+        const auto all = [](const char *sum) { return QStringList(5, QLatin1String(sum)); };
+        QTest::newRow("24Q rows") << FormKind::Form24Q << twice104 << all("20");
+        QTest::newRow("26Q rows") << FormKind::Form26Q << twice104 << all("20.8");
+        QTest::newRow("24Q halves") << FormKind::Form24Q << halves << all("8");
+        QTest::newRow("27EQ halves") << FormKind::Form27EQ << halves << all("8.5");
+        QTest::newRow("26Q typed") << FormKind::Form26Q << typed
+                                   << QStringList{"1.2", "12", "0", "50", "106.5"};
+        QTest::newRow("24Q typed") << FormKind::Form24Q << typed
+                                   << QStringList{"1", "12", "0", "50", "107"};
+        QTest::newRow("26Q a thousand tenths") << FormKind::Form26Q << tenths << all("100");
+        QTest::newRow("27Q past the paise") << FormKind::Form27Q << pastPaise
+                                            << QStringList{"0.5", "0.01", "0", "0", "0"};
+        QTest::newRow("24Q past 32 bits") << FormKind::Form24Q << past32Bits
+                                          << QStringList{"Overflow"};
+        QTest::newRow("24Q no rows") << FormKind::Form24Q << QList<AnnexureListRow>() << all("0");
     }
     void sumChallanRows()
     {
         QFETCH(FormKind, kind);
         QFETCH(QList<AnnexureListRow>, rows);
-        const ChallanControlTotals sums = ::sumChallanRows(formTraits(kind), rows);
-        const QList<qint64> paise = {sums.totTax.paise(), sums.totIncomeTax.paise(),
-                                     sums.totSurcharge.paise(), sums.totCess.paise(),
-                                     sums.ctrlTot.paise()};
-        QTEST(paise, "paise");
+        QStringList sums;
+        try {
+            const ChallanControlTotals totals = ::sumChallanRows(formTraits(kind), rows);
+            for (const ExactAmount &sum : {totals.totTax, totals.totIncomeTax,
+                                           totals.totSurcharge, totals.totCess, totals.ctrlTot})
+                sums << sum.toText();
+        } catch (const std::range_error &error) {
+            sums << QString::fromUtf8(error.what());
+        }
+        QTEST(sums, "sums");
     }
 
     // The totals go to the challan of that Statement and company only.
