@@ -3,13 +3,14 @@
 #include "core/datastore.h"
 #include "returnfile/sourcerows.h"
 
-DeductorCodes DeductorCodes::read(const DataStore &store, const QVariant &companyId)
+DeductorCodes DeductorCodes::read(const DataStore &store, int groupId,
+                                  const QVariant &companyId)
 {
     SourceRows company(store.exec(QStringLiteral(
                                       "SELECT CompID, DStatus, DStateCode, PAOCode, DDOCode, "
                                       "MinistryCode, MinistryOther, PAORegNo, DDORegNo "
-                                      "FROM mstCompany WHERE CompID = ?"),
-                                  {companyId}),
+                                      "FROM mstCompany WHERE GroupID = ? AND CompID = ?"),
+                                  {groupId, companyId}),
                        QStringLiteral("mstCompany"), QStringLiteral("CompID"));
     DeductorCodes codes;
     if (!company.next())

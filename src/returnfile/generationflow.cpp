@@ -213,7 +213,8 @@ GenerationResult GenerationFlow::generate(const GenerationPanel &panel, int open
     // The log row stays when the file fails: it records that a generation was attempted.
     try {
         result.summary =
-            writeReturnFile(m_store, m_form, panel.basicInfoId, fileName, now.date());
+            writeReturnFile(m_store, m_form, panel.groupId, panel.basicInfoId, fileName,
+                            now.date());
     } catch (const ReturnFileError &error) {
         return fail(error.cause() == ReturnFileError::Cause::Value ? GenerationOutcome::Refused
                                                                   : GenerationOutcome::FileFailed,

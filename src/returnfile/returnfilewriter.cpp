@@ -226,7 +226,7 @@ void ReturnFilePass::writeSalaryDetail(const QVariant &basicInfoId)
 
 } // namespace
 
-ReturnFileSummary writeReturnFile(const DataStore &store, const FormTraits &form,
+ReturnFileSummary writeReturnFile(const DataStore &store, const FormTraits &form, int groupId,
                                   int basicInfoId, const QString &path,
                                   const QDate &creationDate)
 {
@@ -240,7 +240,7 @@ ReturnFileSummary writeReturnFile(const DataStore &store, const FormTraits &form
                                   .arg(basicInfoId)
                                   .arg(form.basicInfoTable));
     const QVariant companyId = statement.value(QStringLiteral("CompID"));
-    const DeductorCodes deductor = DeductorCodes::read(store, companyId);
+    const DeductorCodes deductor = DeductorCodes::read(store, groupId, companyId);
     const BatchTotals totals = BatchTotals::read(store, form, basicInfoId, companyId);
     const QString salarySection =
         form.salaryLayout ? salaryChallanSection(deductor.deductorType) : QString();

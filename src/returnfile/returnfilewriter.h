@@ -22,8 +22,9 @@ struct ReturnFileSummary
  * in 24Q, the SD lines with their S16 and C6A lines. The file is written whole or not at all:
  * a value with a caret or a character the single-byte file cannot hold refuses the generation
  * (ReturnFileError naming the table, the row and the column), a store failure throws
- * StoreError, and in both cases nothing is left at path.
+ * StoreError, and in both cases nothing is left at path. The company's codes are read within
+ * @p groupId, the group chosen for the session.
  */
-ReturnFileSummary writeReturnFile(const DataStore &store, const FormTraits &form,
+ReturnFileSummary writeReturnFile(const DataStore &store, const FormTraits &form, int groupId,
                                   int basicInfoId, const QString &path,
                                   const QDate &creationDate);

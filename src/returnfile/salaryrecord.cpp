@@ -1,11 +1,14 @@
 #include "returnfile/salaryrecord.h"
 
+#include "core/numbers.h"
+#include "returnfile/returnfileerror.h"
 #include "returnfile/sourcerows.h"
 
 #include <QVariant>
 
 #include <array>
 #include <cmath>
+#include <limits>
 
 RecordLine salaryRecord(int lineNumber, int salaryNumber, qint64 section16Lines,
                         qint64 chapterVIALines, const SourceRows &salary)
@@ -68,6 +71,10 @@ QString employeeCategoryCode(const QVariant &index)
         return {};
     bool ok = false;
     const double number = index.toDouble(&ok);
+    // The list takes its index as a 16-bit number: one beyond that range stops the generation.
+    if (ok && (number < std::numeric_limits<qint16>::min()
+               || number > std::numeric_limits<qint16>::max()))
+        throw ReturnFileError(QString::fromLatin1(numbers::overflowMessage));
     if (!ok || number != std::trunc(number) || number < 0 || number >= codes.size())
         return {};
     return QLatin1String(codes[static_cast<std::size_t>(number)]);

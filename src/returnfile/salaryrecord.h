@@ -15,5 +15,6 @@ RecordLine salarySectionRecord(int lineNumber, const QString &recordType, int sa
                                int rowNumber, const QString &section, const QVariant &amount);
 
 /// The employee category of the salary screen's list, by the row number stored for it:
-/// "W", "S" or "G"; empty for a number that is not a row of the list.
+/// "W", "S" or "G"; empty for a number that is not a row of the list. A number beyond the
+/// 16-bit range throws ReturnFileError with numbers::overflowMessage.
 QString employeeCategoryCode(const QVariant &index);

@@ -83,6 +83,8 @@ QDate SourceRows::date(const QString &column) const
     if (text.isEmpty())
         return {};
     const QDate date = QDate::fromString(text.left(10), Qt::ISODate);
+    // A guard kept on purpose: a date that cannot be read would go out empty, as if none had
+    // been entered, so it stops the generation instead.
     if (!date.isValid())
         refuse(column, QStringLiteral("it is not a date"));
     return date;

@@ -19,8 +19,9 @@ struct Fixture
     qint64 depositedRupees;
 };
 
-/// Every Statement is BasicIfoID 1 of company 1.
+/// Every Statement is BasicIfoID 1 of company 1 in group 1.
 constexpr int basicInfoId = 1;
+constexpr int groupId = 1;
 
 const QList<Fixture> &all();
 const Fixture &named(const QString &name);

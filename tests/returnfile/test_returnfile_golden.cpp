@@ -76,7 +76,7 @@ private slots:
         earlier.close();
 
         const ReturnFileSummary summary =
-            writeReturnFile(data.store(), formTraits(statement.form),
+            writeReturnFile(data.store(), formTraits(statement.form), statementfixtures::groupId,
                             statementfixtures::basicInfoId, path, QDate(2026, 10, 15));
 
         const QByteArray written = contentsOf(path);

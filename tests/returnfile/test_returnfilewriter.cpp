@@ -24,7 +24,8 @@ QByteArray contentsOf(const QString &path)
 ReturnFileSummary write(const TestStore &data, const QString &fixture, const QString &path)
 {
     return writeReturnFile(data.store(), formTraits(statementfixtures::named(fixture).form),
-                           statementfixtures::basicInfoId, path, QDate(2026, 10, 15));
+                           statementfixtures::groupId, statementfixtures::basicInfoId, path,
+                           QDate(2026, 10, 15));
 }
 
 /// The fields of line @p number (from 1) of a written file.
@@ -75,6 +76,8 @@ private slots:
         row("caret in the last line of the file", "24q_salary",
             "UPDATE TranSec16E24 SET SectionId = '16^(iii)' WHERE Secid = 5",
             "SectionId of TranSec16E24 (Secid 5)", "\"^\"");
+        row("employee category beyond 16 bits", "24q_salary",
+            "UPDATE TranSalaryE24 SET \"331\" = 32768 WHERE SalaryId = 2", "", "Overflow");
         row("date that is not one", "27eq_purchase",
             "UPDATE TranChallanE27E SET DtTrVoucher = '07/11/2026' WHERE ChallnID = 11",
             "DtTrVoucher of TranChallanE27E (ChallnID 11)", "not a date");
@@ -124,7 +127,7 @@ private slots:
         QVERIFY(!QFileInfo::exists(output.filePath("eReturns")));
         const QString path = output.filePath("ACM26QQ2.txt");
         try {
-            writeReturnFile(data.store(), formTraits(FormKind::Form26Q), 7, path, {});
+            writeReturnFile(data.store(), formTraits(FormKind::Form26Q), 1, 7, path, {});
             QFAIL("the return file was written");
         } catch (const ReturnFileError &error) {
             QVERIFY2(error.message().contains("7 in TranBasicInfoE26"),
@@ -167,6 +170,30 @@ private slots:
             QCOMPARE(fieldsOf(path, 3).value(20), section);
             QCOMPARE(fieldsOf(path, 6).value(20), section);
         }
+        // The company is looked up within the session's group: in another it has no codes.
+        writeReturnFile(data.store(), formTraits(FormKind::Form24Q), 2,
+                        statementfixtures::basicInfoId, path, {});
+        const QList<QByteArray> header = fieldsOf(path, 2);
+        QCOMPARE(header.mid(31, 1) + header.mid(53, 8), QList<QByteArray>(9));
+        QCOMPARE(fieldsOf(path, 3).value(20), QByteArray("92B"));
+    }
+
+    // The challans' totals are summed as stored and rounded once, half to even; a sum that
+    // rounds to nothing makes every challan nil.
+    void depositedTotal()
+    {
+        TestStore data;
+        statementfixtures::named("26q_nil").build(data);
+        const QString path = data.folder() + "/ACM26QQ3.txt";
+        const QList<std::tuple<double, double, QByteArray>> totals = {
+            {0.255, 0.245, "0.00 Y"}, {0.005, 0.005, "0.00 Y"}, {0.745, 0.745, "1.00 N"},
+            {2.25, 0.25, "2.00 N"}};
+        for (const auto &[first, second, written] : totals) {
+            data.store().exec("UPDATE TranChallanE26 SET Total = iif(ChallnID = 11, ?, ?)",
+                              {first, second});
+            write(data, "26q_nil", path);
+            QCOMPARE(fieldsOf(path, 2).value(46) + ' ' + fieldsOf(path, 5).value(5), written);
+        }
     }
 
     void recordLine()
@@ -204,7 +231,8 @@ private slots:
         for (const auto &[code, text] : deducteeCodes)
             QCOMPARE(deducteeCodeText(code), text);
         const QList<std::pair<QVariant, QString>> categories = {
-            {2.0, "G"}, {3, ""}, {-1, ""}, {70000, ""}, {1.5, ""}, {QVariant(), ""}};
+            {2.0, "G"}, {3, ""}, {-1, ""}, {32767, ""}, {-32768, ""}, {1.5, ""},
+            {QVariant(), ""}};
         for (const auto &[index, code] : categories)
             QCOMPARE(employeeCategoryCode(index), code);
     }

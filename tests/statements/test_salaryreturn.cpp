@@ -103,7 +103,8 @@ void TestSalaryReturn::salaryLinesAsTheWriterExpects()
 
     const QString path = f.data.folder() + QStringLiteral("/return.txt");
     const ReturnFileSummary summary =
-        writeReturnFile(f.data.store(), f.form, statement, path, QDate(2027, 4, 20));
+        writeReturnFile(f.data.store(), f.form, f.session.curGroupId, statement, path,
+                        QDate(2027, 4, 20));
     QCOMPARE(summary.salaryRows, 2);
     const QList<QByteArray> written = linesOf(path);
     // The writer's fixture has two more salary rows that no screen can enter: a category
