@@ -111,9 +111,14 @@ void removeSelectedRows(QTreeWidget *list)
         if (list->topLevelItem(row)->isSelected())
             delete list->takeTopLevelItem(row);
     }
+    // The rows kept have always been copied out and back with one column short of the list,
+    // so they come back without their last column's text.
+    const int lastColumn = list->columnCount() - 1;
     for (int row = 0; row < list->topLevelItemCount(); ++row) {
         QTreeWidgetItem *item = list->topLevelItem(row);
         item->setText(0, item->text(0).trimmed());
+        if (lastColumn > 0)
+            item->setText(lastColumn, QString());
     }
 }
 

@@ -33,7 +33,8 @@ void fillComboWithBlank(QComboBox *combo, const DataStore &store, const QString 
 void clearControls(QWidget *form);
 
 // Takes the selected rows out of a list, as after the rows were deleted from the store. The
-// rows kept have their first column trimmed.
+// rows kept have their first column trimmed and, in a list of two columns or more, their last
+// column emptied.
 void removeSelectedRows(QTreeWidget *list);
 
 } // namespace widgetroutines

@@ -1,6 +1,7 @@
 #include "masters/companyfieldlinks.h"
 
 #include "core/messageboxes.h"
+#include "core/recordsetfailure.h"
 #include "core/storeerror.h"
 #include "masters/companyfields.h"
 
@@ -154,7 +155,7 @@ void CompanyFieldLinks::deductorTypeChanged()
     try {
         description = m_master.deductorTypeDescription(type);
     } catch (const StoreError &error) {
-        reportStoreError(error.description());
+        m_boxes.show(recordsetFailure(error));
     }
     edit(QStringLiteral("txtDeTypeDesc"))->setText(description);
 }

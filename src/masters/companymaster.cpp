@@ -200,7 +200,8 @@ int CompanyMaster::write(const CompanyEntry &entry,
         columns << QStringLiteral("AsstID");
         values << m_session.asstId;
         for (const CompanyEntry::Field &field : CompanyEntry::fields()) {
-            if (!field.column)
+            // A new company's state rows are left unset; its first update sets them.
+            if (!field.column || field.member == &E::stateId || field.member == &E::pStateId)
                 continue;
             columns << QLatin1String(field.column);
             values << (field.member == &E::compId ? QVariant(compId) : storedValue(entry, field));

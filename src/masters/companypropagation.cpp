@@ -50,7 +50,7 @@ const BookEntryTable bookEntryTables[] = {
 
 bool isOthers(const QString &status)
 {
-    return status.trimmed().compare(QLatin1String("O"), Qt::CaseInsensitive) == 0;
+    return status == u"O";
 }
 
 } // namespace

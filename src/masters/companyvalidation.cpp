@@ -55,8 +55,9 @@ std::optional<FieldFailure> checkEmail(const QString &address, const char *field
 {
     if (address.trimmed().isEmpty())
         return std::nullopt;
+    // Checked as typed: a blank before or after the address is one of the blanks it refuses.
     QString emailError;
-    if (fieldrules::isValidEmail(address.trimmed(), emailError))
+    if (fieldrules::isValidEmail(address, emailError))
         return std::nullopt;
     return refusal(emailError, field);
 }
@@ -192,8 +193,8 @@ std::optional<FieldFailure> CompanyValidation::leavingDeductorType(const QString
 
 std::optional<FieldFailure> CompanyValidation::leavingStatus(const QString &text)
 {
-    const QString status = text.trimmed().toUpper();
-    if (status != u"C" && status != u"O")
+    // Compared as typed: the combo's own keys give capitals.
+    if (text != u"C" && text != u"O")
         return refusal(statusText, "cmbStatus");
     return std::nullopt;
 }

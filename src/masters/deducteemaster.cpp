@@ -82,12 +82,7 @@ void DeducteeMaster::stateChosen()
 
 bool DeducteeMaster::stateLeft()
 {
-    // A blank state is left to the save's check, so that the field can be passed over.
-    if (m_fields.state.trimmed().isEmpty()) {
-        m_fields.stateId = 0;
-        m_fields.stateCode.clear();
-        return true;
-    }
+    // A blank names no state either.
     stateChosen();
     if (m_fields.stateId != 0)
         return true;
@@ -99,7 +94,7 @@ bool DeducteeMaster::stateLeft()
 bool DeducteeMaster::codeLeft()
 {
     const QString code = m_fields.code.trimmed();
-    if (code.isEmpty() || code == companyCode || code == nonCompanyCode)
+    if (code == companyCode || code == nonCompanyCode)
         return true;
     boxes().show({badCodeText});
     requestFocus(codeField);

@@ -64,9 +64,11 @@ public:
 
     /// A state was chosen in the combo: its id and code, and the PIN of a foreign deductee.
     void stateChosen();
-    /// The state combo was left; false, after the message, when its text names no state.
+    /// The state combo was left; false, after the message, when its text names no state, a
+    /// blank text too.
     bool stateLeft();
-    /// The code combo was left; false, after the message, for a code other than 01 or 02.
+    /// The code combo was left; false, after the message, for a code other than 01 or 02, a
+    /// blank one too.
     bool codeLeft();
 
     /// UpdateDeducteeInfo: the deductee's name, code, address, PAN, state and PIN into his rows

@@ -2,6 +2,7 @@
 
 #include "core/messageboxes.h"
 #include "core/numbers.h"
+#include "core/recordsetfailure.h"
 #include "core/screenroutines.h"
 #include "core/session.h"
 #include "core/storeerror.h"
@@ -146,7 +147,7 @@ void FrmCompanyMaster::editCompany()
     try {
         entry = m_master.load(row->text(IdColumn).toInt());
     } catch (const StoreError &error) {
-        reportStoreError(error.description());
+        m_boxes.show(recordsetFailure(error));
         return;
     }
     if (!entry)
@@ -259,7 +260,7 @@ void FrmCompanyMaster::fillList(int selectCompId)
         if (m_filterGroupId != 0)
             rows = m_master.companies(m_filterGroupId);
     } catch (const StoreError &error) {
-        reportStoreError(error.description());
+        m_boxes.show(recordsetFailure(error));
     }
     m_list->clear();
     QList<QTreeWidgetItem *> items;

@@ -3,6 +3,7 @@
 #include "core/fieldchecks.h"
 #include "core/keyfilters.h"
 #include "core/messageboxes.h"
+#include "core/recordsetfailure.h"
 #include "core/screenroutines.h"
 #include "core/session.h"
 #include "core/storeerror.h"
@@ -140,7 +141,7 @@ void FrmGroupMaster::addGroup()
     try {
         m_id->setText(QString::number(m_master.nextId()));
     } catch (const StoreError &error) {
-        reportStoreError(error.description());
+        m_boxes.show(recordsetFailure(error));
         return;
     }
     m_name->clear();
@@ -246,7 +247,7 @@ void FrmGroupMaster::fillList(int selectId)
     try {
         groups = m_master.groups();
     } catch (const StoreError &error) {
-        reportStoreError(error.description());
+        m_boxes.show(recordsetFailure(error));
         return;
     }
     m_list->clear();
@@ -271,7 +272,7 @@ void FrmGroupMaster::showMatchingNames(const QString &typed)
     try {
         names = m_master.namesStartingWith(typed);
     } catch (const StoreError &error) {
-        reportStoreError(error.description());
+        m_boxes.show(recordsetFailure(error));
         return;
     }
     m_matches->clear();

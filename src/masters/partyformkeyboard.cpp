@@ -108,11 +108,16 @@ bool PartyFormKeyboard::eventFilter(QObject *watched, QEvent *event)
         const bool tabOutOfPan = field == m_pan && key->key() == Qt::Key_Tab
                                  && key->modifiers() == Qt::NoModifier;
         if (isEnter(key) || tabOutOfPan) {
-            if (m_actions.leaveField(field))
+            // Left once: the PAN that leaving has just made "PANNOTAVBL" is not left again.
+            if (m_actions.leaveField(field)) {
+                m_movingOn = true;
                 moveToNextField(field);
+                m_movingOn = false;
+            }
             return true;
         }
-    } else if (event->type() == QEvent::FocusOut && watched == field && !m_showing) {
+    } else if (event->type() == QEvent::FocusOut && watched == field && !m_showing
+               && !m_movingOn) {
         const auto *focus = static_cast<QFocusEvent *>(event);
         // Only a move to another control of this screen leaves the field; closing the screen or
         // turning to another one does not. A refusal takes the focus back, and the mouse press

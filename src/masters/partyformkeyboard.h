@@ -58,4 +58,5 @@ private:
     Actions m_actions;
     bool m_dropClick = false; // a leave check refused as the mouse took the focus away
     bool m_showing = false;
+    bool m_movingOn = false; // the focus leaves a field already left by Enter or Tab
 };

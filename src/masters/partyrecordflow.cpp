@@ -5,6 +5,7 @@
 #include "core/datastore.h"
 #include "core/fieldrules.h"
 #include "core/records.h"
+#include "core/recordsetfailure.h"
 #include "core/session.h"
 #include "core/storeerror.h"
 
@@ -35,6 +36,12 @@ bool PartyRecordFlow::isPanNotAvailable(const QString &pan)
     return text.isEmpty() || text == panApplied || text == panNotAvailable;
 }
 
+bool PartyRecordFlow::asksPanRef(const QString &pan)
+{
+    const QString text = pan.trimmed();
+    return text.isEmpty() || text == panApplied;
+}
+
 QString PartyRecordFlow::storedPan(const QString &pan)
 {
     const QString text = records::escapeText(pan);
@@ -43,7 +50,7 @@ QString PartyRecordFlow::storedPan(const QString &pan)
 
 QString PartyRecordFlow::panAfterLeaving(const QString &pan)
 {
-    return isPanNotAvailable(pan) ? panNotAvailable : pan;
+    return asksPanRef(pan) ? panNotAvailable : pan;
 }
 
 std::optional<FieldFailure> PartyRecordFlow::checkPan(const QString &pan)
@@ -67,7 +74,7 @@ bool PartyRecordFlow::guarded(const std::function<void()> &step)
         step();
         return true;
     } catch (const StoreError &error) {
-        m_boxes.show({error.description(), appTitle, MessageIcon::Critical, MessageButtons::Ok});
+        m_boxes.show(recordsetFailure(error));
         return false;
     }
 }
@@ -157,7 +164,6 @@ void PartyRecordFlow::command(int index)
         }
     });
     fields().pan = panNotAvailable;
-    m_panRefEnabled = true;
     commandTail();
 }
 
@@ -189,8 +195,8 @@ void PartyRecordFlow::deleteKey()
 
 void PartyRecordFlow::panLeft()
 {
+    m_panRefEnabled = asksPanRef(fields().pan);
     fields().pan = panAfterLeaving(fields().pan);
-    m_panRefEnabled = isPanNotAvailable(fields().pan);
 }
 
 void PartyRecordFlow::beforeAdd(bool & /*cancel*/)

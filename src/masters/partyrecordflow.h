@@ -84,6 +84,9 @@ public:
     static bool isPanPlaceholder(const QString &pan);
     /// Whether the field says that the party has no PAN: blank, applied for, or not available.
     static bool isPanNotAvailable(const QString &pan);
+    /// Whether leaving the field with this text asks for the PAN reference: blank or applied
+    /// for, which the field turns into "PANNOTAVBL". Any other text, that word too, does not.
+    static bool asksPanRef(const QString &pan);
     /// The PAN as it is written: trimmed, and "PANNOTAVBL" for a blank one.
     static QString storedPan(const QString &pan);
     /// The PAN field after it is left: "PANNOTAVBL" when the party has no PAN.
@@ -106,7 +109,8 @@ public:
     void groupChanged();
 
     /// A click on cmd(index): 0 Add New, 1 Edit, 2 Save, 3 Cancel, 4 Delete; any click ends by
-    /// putting "PANNOTAVBL" in the PAN field, as the screens have always done.
+    /// putting "PANNOTAVBL" in the PAN field, as the screens have always done, without opening
+    /// the PAN reference.
     void command(int index);
     /// Double click (or Enter) on a list row: the row into the fields, editing it.
     void loadRow(int row);
@@ -143,7 +147,8 @@ protected:
     MessageBoxes &boxes() const { return m_boxes; }
     int mode() const { return m_operation.operationMode(); }
     void requestFocus(const QString &field) { m_focus = field; }
-    /// Runs a step that reads or writes the store; a failure shows its description.
+    /// Runs a step that reads the store (a save reports its own failure); a failure shows the
+    /// store's description as a read that failed.
     bool guarded(const std::function<void()> &step);
     /// Back to the list once a party is saved: empty fields showing the next id, the list
     /// read again.

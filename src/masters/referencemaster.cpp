@@ -3,6 +3,7 @@
 #include "core/datastore.h"
 #include "core/messageboxes.h"
 #include "core/records.h"
+#include "core/recordsetfailure.h"
 #include "core/screenroutines.h"
 #include "core/storeerror.h"
 
@@ -100,7 +101,7 @@ void ReferenceMaster::fill(const DataStore &store, const QString &statement,
                                          records::nullToText(query.value(1))});
         }
     } catch (const StoreError &error) {
-        boxes.show({error.description(), appTitle, MessageIcon::Critical});
+        boxes.show(recordsetFailure(error));
     }
 }
 

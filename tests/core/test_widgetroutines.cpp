@@ -155,18 +155,20 @@ private slots:
 
     void removeSelectedRows()
     {
+        // The rows kept lose the text of their last column.
         QTreeWidget list;
-        list.setColumnCount(2);
+        list.setColumnCount(3);
         list.setSelectionMode(QAbstractItemView::ExtendedSelection);
         for (const char *text : {"1", " 2 ", "3", "4 "})
-            new QTreeWidgetItem(&list, {QLatin1String(text), QStringLiteral(" 10.00")});
+            new QTreeWidgetItem(&list, {QLatin1String(text), " 10.00", "10.00"});
         list.topLevelItem(0)->setSelected(true);
         list.topLevelItem(2)->setSelected(true);
         widgetroutines::removeSelectedRows(&list);
         QStringList kept;
         for (int index = 0; index < list.topLevelItemCount(); ++index)
-            kept << list.topLevelItem(index)->text(0) + u'|' + list.topLevelItem(index)->text(1);
-        QCOMPARE(kept, QStringList({"2| 10.00", "4| 10.00"}));
+            kept << list.topLevelItem(index)->text(0) + u'|' + list.topLevelItem(index)->text(1)
+                        + u'|' + list.topLevelItem(index)->text(2);
+        QCOMPARE(kept, QStringList({"2| 10.00|", "4| 10.00|"}));
     }
 
     // The bar's buttons, "1" enabled and "0" disabled, cmd(0) first; the close button beside

@@ -70,7 +70,8 @@ private slots:
             {"cmbPState", V::enterStateText, {{"cmbPState", "GOA"}}},
             {"txtPpincode", V::enterPinText, {{"txtPpincode", "1"}}},
             {"txtPrefix", V::enterPrefixText, {{"txtPrefix", "ZED"}}},
-            {"txtEmail", emailErrorOf("accounts.zed"), {{"txtEmail", ""}}},
+            {"txtEmail", emailErrorOf("accounts.zed"), {{"txtEmail", " accounts@zed.in"}}},
+            {"txtEmail", emailErrorOf(" accounts@zed.in"), {{"txtEmail", ""}}},
             {"txtPemail", emailErrorOf("raj@zed"), {{"txtPemail", "raj@zed.in"}}},
             {"cmbGroupName", V::properGroupText, {{"txtGrpId", "1"}}},
             {"cmbState", V::stateFromListText, {{"txtStID", "10"}}},
@@ -182,9 +183,9 @@ private slots:
         QCOMPARE(V::leavingPan(QStringLiteral("AAAC"))->message.text, V::shortPanText);
         QVERIFY(V::leavingDeductorType(QStringLiteral(" ")));
         QVERIFY(!V::leavingDeductorType(QStringLiteral("K")));
-        for (const char *status : {"C", "o"})
+        for (const char *status : {"C", "O"})
             QVERIFY(!V::leavingStatus(QLatin1String(status)));
-        for (const char *status : {"", "X", "CO"})
+        for (const char *status : {"", "X", "CO", "o", " C"})
             QCOMPARE(V::leavingStatus(QLatin1String(status))->message.text, V::statusText);
     }
 };

@@ -181,6 +181,8 @@ private slots:
         QFETCH(QString, message);
         ScreenDriver<FrmDeducteeMaster> s(mastersStore());
         startDeductee(s);
+        if (field != u"cmbDeducteeCode")
+            s.type(QStringLiteral("01")); // a blank code is not to be left either
         s.child(qPrintable(field))->setFocus();
         s.type(typed);
         s.press(Qt::Key_Return);

@@ -300,7 +300,8 @@ private slots:
                                  << "DEDUCTEE - NON COMPANY";
         QTest::newRow("unknown state, code 03") << "GOA STATE" << "refused" << "560001" << "03"
                                                 << "refused";
-        QTest::newRow("blank state and code") << "" << "" << "560001" << "" << "";
+        QTest::newRow("blank state and code") << " " << "refused" << "560001" << ""
+                                              << "refused";
     }
     void stateAndCode()
     {
