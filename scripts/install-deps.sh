@@ -3,12 +3,13 @@
 set -euo pipefail
 
 packages=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libgl-dev
-          sqlite3 libxlsxwriter-dev)
+          sqlite3 libsqlite3-dev libxlsxwriter-dev)
 # The report tests read saved PDFs and zip-based exports back as text, names in Devanagari included.
 packages+=(poppler-utils unzip fonts-lohit-deva)
 if [ "${1:-}" = "--gui" ]; then
-    # Only for looking at the program on a machine without a display.
-    packages+=(xvfb xauth imagemagick)
+    # Only for looking at the program on a machine without a display, and for the manual's
+    # screenshots (scripts/manual-screenshots.sh).
+    packages+=(xvfb xauth imagemagick openbox xdotool)
 fi
 
 missing=()
