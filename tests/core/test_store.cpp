@@ -8,15 +8,23 @@
 #include "core/storeupgrade.h"
 #include "core/transaction.h"
 #include "support/scriptedmessageboxes.h"
+#include "support/teststore.h"
 #include "support/testsuite.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QMutex>
+#include <QScopeGuard>
 #include <QSqlQuery>
 #include <QSqlRecord>
+#include <QSysInfo>
 #include <QTemporaryDir>
 #include <QThread>
+
+#include <sys/mount.h>
+#include <unistd.h>
+
+Q_DECLARE_METATYPE(Answer)
 
 namespace {
 
@@ -62,6 +70,31 @@ QString olderStore(const QTemporaryDir &dir)
 
 const char *const challanTables[] = {"TranChallanE24", "TranChallanE26", "TranChallanE27",
                                      "TranChallanE27E"};
+
+const QString unmarked = QStringLiteral("PRAGMA application_id = 0");
+
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Makes a path read-only, when wanted, until the guard ends: permissions do not stop root, a
+/// read-only bind mount does.
+auto readOnly(const QString &path, bool wanted)
+{
+    const QByteArray native = path.toLocal8Bit();
+    const QFile::Permissions kept = QFile::permissions(path);
+    const bool root = geteuid() == 0;
+    if (wanted && !root)
+        QFile::setPermissions(path, kept & ~QFile::Permissions(0x2222));
+    else if (wanted && mount(native, native, nullptr, MS_BIND, nullptr) == 0)
+        mount(nullptr, native, nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr);
+    return qScopeGuard([=] {
+        if (wanted)
+            root ? umount2(native, MNT_DETACH) : QFile::setPermissions(path, kept);
+    });
+}
 
 } // namespace
 
@@ -176,12 +209,10 @@ private slots:
     {
         QTemporaryDir dir;
         const QString path = olderStore(dir);
-        constexpr int saves = 40;
-        QMutex mutex;
-        QStringList failures;
-        const auto saver = [&] {
+        QStringList failures[2];
+        const auto saver = [&](int writer) {
             const DataStore store(path);
-            for (int i = 0; i < saves; ++i) {
+            for (int i = 0; i < 40; ++i) {
                 try {
                     Transaction transaction(store);
                     const double id = records::nextId(store, "mstGroup", "GroupID");
@@ -189,30 +220,121 @@ private slots:
                     store.exec("INSERT INTO mstGroup (GroupID, GroupName) VALUES (?, 'G')", {id});
                     transaction.commit();
                 } catch (const StoreError &error) {
-                    const QMutexLocker locked(&mutex);
-                    failures << error.description();
+                    failures[writer] << error.description();
                 }
             }
         };
-        const std::unique_ptr<QThread> first(QThread::create(saver));
-        const std::unique_ptr<QThread> second(QThread::create(saver));
+        const std::unique_ptr<QThread> first(QThread::create(saver, 0));
+        const std::unique_ptr<QThread> second(QThread::create(saver, 1));
         first->start();
         second->start();
         // Bounded, so that a writer that never gets its turn fails the test instead of hanging.
         QVERIFY(first->wait(QDeadlineTimer(120000)) && second->wait(QDeadlineTimer(120000)));
-        QCOMPARE(failures, QStringList());
+        QCOMPARE(failures[0] + failures[1], QStringList());
         QCOMPARE(DataStore(path).scalar("SELECT count(DISTINCT GroupID)||' '||max(GroupID) "
                                         "FROM mstGroup").toString(),
-                 QStringLiteral("%1 %1").arg(2 * saves));
+                 "80 80");
     }
 
+    // Each store that the start meets: refused, offered for viewing only, or opened with its
+    // lock; and whatever happens, nothing written to the store or beside it that should not be.
+    void badStores_data()
+    {
+        // store: statements that make it what it is, or "empty" or "missing"
+        // opened: "refused" (text in the refusal), "none" or "view only" (text in the
+        // question), "locked" (opened for writing)
+        testsuite::columns<QString, QString, Answer, QString, QString>(
+            "store", "condition", "answer", "text", "opened");
+        const auto row = [](const char *name, const QString &store, const char *condition,
+                            Answer answer, const QString &text, const char *opened) {
+            QTest::newRow(name) << store << condition << answer << text << opened;
+        };
+        const QString foreign = QStringLiteral("is not a Kelvora data store");
+        const QString inUse = QStringLiteral("is in use by %1 (process %2)")
+                                  .arg(QCoreApplication::applicationName())
+                                  .arg(QCoreApplication::applicationPid());
+        const QString older = QStringLiteral("PRAGMA user_version = 1");
+        row("missing", "missing", "", Answer::None, "Could not find file", "refused");
+        row("empty file", "empty", "", Answer::None, foreign, "refused");
+        row("foreign SQLite file", "PRAGMA application_id = 0;DROP TABLE mstGroup", "",
+            Answer::None, foreign, "refused");
+        row("another application's id", "PRAGMA application_id = 7", "", Answer::None, foreign,
+            "refused");
+        row("made before the id", unmarked, "", Answer::None, "", "locked");
+        row("up to date", "", "", Answer::None, "", "locked");
+        row("read-only file, viewed", "", "file", Answer::Yes, "the file is read-only",
+            "view only");
+        row("read-only folder, viewed", "", "folder", Answer::Yes, "its folder is read-only",
+            "view only");
+        row("read-only, upgrade due", older, "file", Answer::None,
+            "the file is read-only, and it must first be brought up to date", "refused");
+        row("in use, viewed", "", "locked", Answer::Yes, inUse, "view only");
+        row("in use, declined", "", "locked", Answer::No, inUse, "none");
+        row("left locked by a crash", "", "stale", Answer::None, "", "locked");
+    }
+    void badStores()
+    {
+        QFETCH(QString, store);
+        QFETCH(QString, condition);
+        QFETCH(Answer, answer);
+        QFETCH(QString, text);
+        QFETCH(QString, opened);
+        const TestStore data;
+        const QString path = data.store().path();
+        if (store == u"empty" || store == u"missing")
+            QVERIFY(store == u"empty" ? QFile::resize(path, 0) : QFile::remove(path));
+        for (const QString &sql : store.split(u';', Qt::SkipEmptyParts)) {
+            if (store != u"empty" && store != u"missing")
+                data.store().exec(sql);
+        }
+        StoreLock other(path);
+        if (condition == u"locked")
+            QVERIFY(other.take());
+        QFile stale(other.lockPath()); // as a killed program leaves it: its process has ended
+        if (condition == u"stale" && stale.open(QIODevice::WriteOnly))
+            stale.write("2147483647\nkelvora\n" + QSysInfo::machineHostName().toUtf8() + '\n');
+        stale.close();
+        const auto guard = readOnly(condition == u"file" ? path : data.folder(),
+                                    condition == u"file" || condition == u"folder");
+        const QByteArray bytes = bytesOf(path);
+        const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        const QStringList listing = QDir(data.folder()).entryList(all);
+
+        ScriptedMessageBoxes boxes;
+        boxes.answerNext(answer);
+        std::optional<OpenedStore> result;
+        QString refusal;
+        try {
+            result = startup::openStore(data.folder(), boxes);
+        } catch (const StoreError &error) {
+            refusal = error.description();
+        }
+        const QString told = refusal.isEmpty() ? boxes.texts().join(u'|') : refusal;
+        QVERIFY2(told.contains(text) && refusal.isEmpty() == (opened != u"refused"),
+                 qPrintable(told));
+        QCOMPARE(result.has_value(), opened == u"view only" || opened == u"locked");
+        if (result) {
+            QCOMPARE(result->lock != nullptr, opened == u"locked");
+            Session session(*result->store);
+            startup::prepareStore(session);
+            try {
+                Transaction(*result->store).commit();
+            } catch (const StoreError &error) {
+                refusal = error.description();
+            }
+            QCOMPARE(refusal, opened == u"view only" ? DataStore::viewOnlyText : QString());
+            result.reset();
+        }
+        // The main window's load writes only what is due: here, the mark of an unmarked store.
+        QCOMPARE(bytesOf(path) == bytes, store != unmarked);
+        // A lock taken over from a crashed program is let go like any other.
+        QCOMPARE(QDir(data.folder()).entryList(all),
+                 (condition == u"stale" ? QStringList{DataStore::fileName} : listing));
+    }
     void startReadsTheAssessmentPeriod()
     {
         QTemporaryDir dir;
-        olderStore(dir);
-        ScriptedMessageBoxes boxes;
-        const std::optional<OpenedStore> opened = startup::openStore(dir.path(), boxes);
-        DataStore *store = opened->store.get();
+        const auto store = std::make_unique<DataStore>(olderStore(dir));
         QVERIFY(store->tableExists("MSTGROUP"));
         QVERIFY(store->columnExists("mstcompany", "TANNO"));
         QVERIFY(!store->columnExists("mstGroup", "CompID"));

@@ -5,6 +5,13 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QScopeGuard>
+#include <QTemporaryDir>
+
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
 
 using namespace generationrows;
 
@@ -115,33 +122,6 @@ private slots:
                  m_data.folder() + "/eReturns/KAV26QQ2.txt|3|Form -26Q|Q2|0|700.0");
     }
 
-    // A store the front end cannot use is a failure of its own, told as the program's start
-    // tells it, and nothing is written.
-    void storeRefusals_data()
-    {
-        testsuite::columns<QString, QString>("store", "err");
-        QTest::newRow("missing") << "none.db" << "Could not find file";
-        QTest::newRow("empty file") << "empty.db" << "empty.db is not a Kelvora data store.";
-        QTest::newRow("in use") << DataStore::fileName
-                                << "is in use by " + QCoreApplication::applicationName();
-    }
-    void storeRefusals()
-    {
-        QFETCH(QString, store);
-        QFETCH(QString, err);
-        const TestStore data(m_data);
-        QFile(data.folder() + "/empty.db").open(QIODevice::WriteOnly);
-        StoreLock lock(data.store().path());
-        QVERIFY(lock.take());
-        const Run run =
-            this->run("--form 26Q --quarter Q2 --all --wait 0", data.folder() + '/' + store);
-        QCOMPARE(run.exitCode, 3);
-        QVERIFY2(run.out.isEmpty() && run.err.contains(err), qPrintable(run.err));
-        QCOMPARE(QDir(data.folder()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
-                 (QStringList{"empty.db", DataStore::fileName, "Kelvora.db.lock"}));
-        QCOMPARE(QFileInfo(data.folder() + "/empty.db").size(), 0);
-    }
-
     // Two companies without a prefix share a file name: the second is refused, not written
     // over the first. The front end makes eReturns, as the program's start does.
     void sharedFileNameIsNotOverwritten()
@@ -160,6 +140,87 @@ private slots:
         QVERIFY(lines.startsWith(data.folder() + "/eReturns/26QQ1.txt\t"));
         QVERIFY(errors.startsWith("refused\tSECOND LTD (company 22, TAN DELS02222E)"));
         QCOMPARE(data.text("SELECT group_concat(CompID) FROM FileGenerationLog"), "21");
+    }
+
+    // What cannot take a return file, or a store the batch cannot use: the run says why on its
+    // error stream, 1 for a refused Statement and 3 for the store or the file system, and
+    // nothing is written where it should not be.
+    void badTargets_data()
+    {
+        testsuite::columns<QString, QString, int, QString>("target", "prefix", "exitCode",
+                                                           "message");
+        const QString notPlain = QStringLiteral("that name is not a plain file");
+        const QString prefix = QStringLiteral("File Name Prefix \"%1\" of the company "
+                                              "KAVERI TEXTILES LTD may hold letters and digits");
+        QTest::newRow("device") << "device" << "KAV" << 3 << notPlain;
+        QTest::newRow("FIFO") << "fifo" << "KAV" << 3 << notPlain;
+        QTest::newRow("folder") << "folder" << "KAV" << 3 << notPlain;
+        QTest::newRow("full disk") << "full" << "KAV" << 3 << "No space left on device";
+        QTest::newRow("prefix of the root") << "" << "/" << 1 << prefix.arg("/");
+        QTest::newRow("prefix climbing out") << "" << "../" << 1 << prefix.arg("../");
+        QTest::newRow("prefix with a control character")
+            << "" << "K\x1bV" << 1 << prefix.arg("K\x1bV");
+        QTest::newRow("empty store") << "empty.db" << "KAV" << 3 << "is not a Kelvora data store";
+        QTest::newRow("store in use") << "in use" << "KAV" << 3
+                                      << "is in use by " + QCoreApplication::applicationName();
+    }
+    void badTargets()
+    {
+        QFETCH(QString, target);
+        QFETCH(QString, prefix);
+        QFETCH(int, exitCode);
+        QFETCH(QString, message);
+        const TestStore data(m_data);
+        data.store().exec("UPDATE mstCompany SET FilePrefix = ? WHERE CompID = 11", {prefix});
+        QDir(data.folder()).mkdir("eReturns");
+        QTemporaryDir targets;
+        const QString store =
+            target == u"empty.db" ? targets.filePath(target) : data.store().path();
+        QString output = targets.filePath("KAV26QQ2.txt");
+        const QByteArray native = output.toLocal8Bit();
+        StoreLock lock(store);
+        // A file system of a few pages, for a disk that fills up.
+        const QByteArray folder = targets.path().toLocal8Bit();
+        const bool mounted =
+            target == u"full" && mount("tmpfs", folder, "tmpfs", 0, "size=16k") == 0;
+        const auto unmount = qScopeGuard([&] {
+            if (mounted)
+                umount2(folder, MNT_DETACH);
+        });
+        if (target == u"device" && mknod(native, S_IFCHR | 0666, makedev(1, 3)) != 0)
+            output = "/dev/null"; // not root: a device that no one else may replace
+        else if (target == u"fifo")
+            QCOMPARE(mkfifo(native, 0666), 0);
+        else if (target == u"folder")
+            QVERIFY(QDir().mkdir(output));
+        else if (target == u"full" && !mounted)
+            QSKIP("a full disk needs a small file system, which only root may mount");
+        else if (target == u"in use")
+            QVERIFY(lock.take());
+        QFile filler(target == u"full" ? targets.filePath("filler") : store);
+        if (target == u"full" || target == u"empty.db")
+            QVERIFY(filler.open(QIODevice::WriteOnly));
+        while (target == u"full" && filler.write(QByteArray(4096, 'x')) == 4096 && filler.flush())
+            ;
+        filler.close();
+        const auto listing = [&] {
+            const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+            return QDir(targets.path()).entryList(all) + QDir(data.folder()).entryList(all)
+                   + QDir(data.folder() + "/eReturns").entryList(all);
+        };
+        const QStringList before = listing();
+        const bool toOutput = QStringList{"device", "fifo", "folder", "full"}.contains(target);
+
+        const Run run = this->run("--form 26Q --quarter Q2 --company 11 --wait 0"
+                                      + (toOutput ? " --output " + output : QString()),
+                                  store);
+        QCOMPARE(run.exitCode, exitCode);
+        QVERIFY2(run.out.isEmpty() && run.err.contains(message)
+                     && (!toOutput || run.err.contains(output)),
+                 qPrintable(run.err));
+        // Neither a plain file put in place of another kind, nor a file anywhere else.
+        QCOMPARE(listing(), before);
+        QVERIFY(target == u"full" || !QFileInfo(output).isFile());
     }
 
 private:
