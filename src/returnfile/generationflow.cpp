@@ -1,6 +1,7 @@
 #include "returnfile/generationflow.h"
 
 #include "core/datastore.h"
+#include "core/exactamount.h"
 #include "core/messageboxes.h"
 #include "core/namepart.h"
 #include "core/numbers.h"
@@ -38,12 +39,16 @@ QList<Money> sumsOf(const DataStore &store, const QStringList &columns, const QS
     QSqlQuery query = store.exec(
         QStringLiteral("SELECT %1 FROM %2 WHERE BasicIfoID = ?").arg(columns.join(u','), table),
         {basicInfoId});
-    QList<Money> sums(columns.size());
+    // The store sums the amounts as they stand; only the panel's figure is rounded to paise.
+    QList<ExactAmount> sums(columns.size());
     while (query.next()) {
         for (qsizetype i = 0; i < sums.size(); ++i)
-            sums[i] += Money::fromStored(query.value(static_cast<int>(i)));
+            sums[i] += ExactAmount::fromStored(query.value(static_cast<int>(i)));
     }
-    return sums;
+    QList<Money> rounded;
+    for (const ExactAmount &sum : sums)
+        rounded.append(Money::fromText(sum.toText()));
+    return rounded;
 }
 
 QString textOf(const DataStore &store, const QString &sql, const QVariantList &values)

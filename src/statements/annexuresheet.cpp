@@ -338,6 +338,10 @@ void AnnexureSheet::deleteRow(int row)
     } catch (const StoreError &error) {
         m_statement.reportStoreError(error);
         return;
+    } catch (const std::range_error &error) {
+        // The rows left would overflow the challan's totals: the row stays.
+        refuse(QString::fromUtf8(error.what()), QStringLiteral("lstvDedt"));
+        return;
     }
     // The rows left keep their serial numbers: only challans are numbered anew.
     m_rows.takeRow(row);
@@ -375,6 +379,8 @@ bool AnnexureSheet::transferToChallans()
     } catch (const StoreError &error) {
         m_statement.reportStoreError(error);
         return false;
+    } catch (const std::range_error &error) {
+        return refuse(QString::fromUtf8(error.what()), QStringLiteral("lstvDedt"));
     }
     m_statement.info().noChallan = QString::number(m_statement.storedChallans());
     m_statement.boxes().show({transferredText, appTitle, MessageIcon::Information});

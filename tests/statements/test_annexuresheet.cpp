@@ -1,4 +1,5 @@
 #include "statementfixture.h"
+#include "core/numbers.h"
 #include "statements/annexurerules.h"
 #include "statements/annexuresheet.h"
 #include "statements/challansheet.h"
@@ -83,6 +84,7 @@ private slots:
     void refusals();
     void noDeductionRowHasNoDeposit();
     void automaticTransfer();
+    void deleteThatWouldOverflowKeepsTheRow();
 };
 
 void TestAnnexureSheet::taxByAmountOrRate_data()
@@ -261,4 +263,19 @@ void TestAnnexureSheet::automaticTransfer()
 }
 
 QTEST_GUILESS_MAIN(TestAnnexureSheet)
+void TestAnnexureSheet::deleteThatWouldOverflowKeepsTheRow()
+{
+    // 24Q's totals are 32-bit whole rupees: rows left past that range keep the row deleted.
+    AnnexureFixture f(FormKind::Form24Q);
+    for (int row = 0; row < 3; ++row)
+        QVERIFY(f.enter("100"));
+    f.data.store().exec("UPDATE " + f.form.annexureTable + " SET Surcharge = 1500000000");
+    f.rows.open();
+    f.boxes.answerNext(Answer::Yes);
+    f.rows.deleteRow(0);
+    QCOMPARE(f.boxes.shown.last().text, QString(numbers::overflowMessage));
+    QCOMPARE(f.data.count(f.form.annexureTable), 3);
+    QCOMPARE(f.rows.rows().rowCount(), 3);
+}
+
 #include "test_annexuresheet.moc"
