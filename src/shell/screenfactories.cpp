@@ -11,7 +11,10 @@
 #include "masters/frmgroupmaster.h"
 #include "masters/partymasterform.h"
 #include "masters/referencemaster.h"
+#include "reports/frmcertificate16a.h"
+#include "reports/frmform16report.h"
 #include "reports/frmgroupwisecompanydetails.h"
+#include "reports/frmreport.h"
 #include "reports/listreportscreens.h"
 #include "returnfile/frmshowforms.h"
 #include "shell/mdimain.h"
@@ -71,4 +74,11 @@ void registerScreens(MdiMain &window, Session &session, MessageBoxes &boxes)
     window.setScreenFactory(QStringLiteral("frmGroupWiseCompanyDetails"), [&] {
         return new FrmGroupWiseCompanyDetails(session.store, boxes);
     });
+    window.setScreenFactory(QStringLiteral("FrmReport"),
+                            [&] { return new FrmReport(session, boxes); });
+    window.setScreenFactory(QStringLiteral("frmForm16Report"), [&] {
+        return new FrmForm16Report(session, boxes, window.selectedQuarterText());
+    });
+    window.setScreenFactory(QStringLiteral("frmCertificate16A"),
+                            [&] { return new FrmCertificate16A(session, boxes); });
 }

@@ -29,6 +29,7 @@ void fill(const DataStore &store)
                    trickyName, "19", 19, "OBR"});
     exec(company, {2, 3, "CALB12345C", "AAACB1234C", "BETA MILLS", "3 MILL LANE", "ANIL DAS",
                    "5 MARINE DRIVE", "27", 27, "BETA"});
+    exec("UPDATE mstCompany SET DStatus = 'K' WHERE CompID IN (1, 2)", {});
 
     const char *deductee =
         "INSERT INTO mstDeductee (GroupId, DeducteeID, PAN, DeducteeName) VALUES (?, ?, ?, ?)";
@@ -39,6 +40,51 @@ void fill(const DataStore &store)
         "INSERT INTO mstEmployee (GroupId, EmpID, PAN, EmpName) VALUES (?, ?, ?, ?)";
     exec(employee, {1, 1, "AAAPE4444E", "ESHA DEOL"});
     exec(employee, {2, 2, "AAAPF5555F", trickyName});
+
+    // 26Q Statements: company 1 in Q1 (1) and Q2 (2), company 3 in Q1 (3).
+    const char *statement =
+        "INSERT INTO TranBasicInfoE26 (BasicIfoID, CompID, AsstID, TanNO, PanNo, CompName, "
+        "Address1, Address2, Address3, Address4, Address5, StateCode, Pincode, Employer, Status, "
+        "Quarter) VALUES (?, ?, 1, 'CALZ12345A', 'AAACZ1234A', ?, '1 ZETA HOUSE', 'MG ROAD', "
+        "'KOLKATA', 'ZETA TOWER', 'BOWBAZAR', '19', '700001', 1, 0, ?)";
+    exec(statement, {1, 1, "ZETA TRADERS", "Q1"});
+    exec(statement, {2, 1, "ZETA TRADERS", "Q2"});
+    exec(statement, {3, 3, "BETA MILLS", "Q1"});
+    exec(statement, {4, 2, trickyName, "Q1"});
+    const char *challan =
+        "INSERT INTO TranChallanE26 (ChallnID, BasicIfoID, CompID, AsstID, SlNo, Section, "
+        "AmountDeducted, TrVoucherNo, DtTrVoucher, BankCode, Total, ChqDDNo, BookEntry, "
+        "TransferVoucherNo) VALUES (?, ?, ?, 1, ?, ?, ?, ?, ?, ?, ?, '123456', 'N', ?)";
+    exec(challan, {1, 1, 1, 1, "94C", 2700, "00011", "2026-05-07", "0510308", 2715, "0"});
+    exec(challan, {2, 1, 1, 2, "94J", 5000, "", "2026-06-07", "0510309", 5000.25, "987654321"});
+    exec(challan, {3, 2, 1, 1, "94C", 999, "00031", "2026-09-07", "0510308", 999, "0"});
+    exec(challan, {4, 3, 3, 1, "94C", 300, "00041", "2026-05-07", "0510308", 300, "0"});
+    exec(challan, {5, 4, 2, 1, "94C", 100, "00051", "2026-05-07", "0510308", 100, "0"});
+    // Company 1's first quarter: ZUBIN MEHTA under 94C (two rows, the later one first) and
+    // 94J, trickyName under 94C, and a row whose section is not in the list.
+    const char *row =
+        "INSERT INTO TranDeducteeE26 (DeducteeID, BasicIfoID, CompID, AsstID, ChallanId, SrlNo, "
+        "Section, DeducteeNo, DeducteeCode, PAN, DeducteeName, Address1, State, AmtOfPayment, "
+        "PaymentDt, Rate, Tax, Cess, Total, TaxAmount, TaxDeductDt) "
+        "VALUES (?, ?, ?, 1, ?, ?, ?, ?, '02', ?, ?, 'BANDRA', 'MAHARASHTRA', ?, ?, 2, ?, ?, ?, "
+        "?, ?)";
+    const auto deducteeRow = [&](int key, int statement, int company, int challan, int serial,
+                                 const char *section, int master, double paid, const char *date,
+                                 double tax, double cess) {
+        const QVariant name = master == 1 ? QVariant("ZUBIN MEHTA")
+                                          : master == 2 ? QVariant(trickyName)
+                                                        : QVariant("BHARAT RAO");
+        const char *pan = master == 1 ? "AAAPZ1111Z" : master == 2 ? "AAAPA2222A" : "AAAPB3333B";
+        exec(row, {key, statement, company, challan, serial, section, master, pan, name, paid,
+                   date, tax, cess, tax + cess, tax + cess, date});
+    };
+    deducteeRow(1, 1, 1, 1, 1, "94C", 1, 100000, "2026-04-20", 2000, 0);
+    deducteeRow(2, 1, 1, 1, 2, "94C", 2, 10000, "2026-04-25", 200, 0);
+    deducteeRow(3, 1, 1, 1, 3, "94C", 1, 25000, "2026-04-10", 500, 15);
+    deducteeRow(1, 1, 1, 2, 4, "94J", 1, 50000, "2026-05-15", 5000, 0.25);
+    deducteeRow(2, 1, 1, 2, 5, "XYZ", 1, 1000, "2026-05-16", 10, 0);
+    deducteeRow(1, 2, 1, 3, 1, "94C", 1, 49950, "2026-08-01", 999, 0);
+    deducteeRow(1, 3, 3, 4, 1, "94C", 3, 15000, "2026-04-02", 300, 0);
 
     const char *log =
         "INSERT INTO FileGenerationLog (FGId, GrpID, CompID, FormNo, FileName, DateOfCreation, "

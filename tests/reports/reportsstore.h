@@ -7,10 +7,14 @@
 
 /**
  * The store that the report tests read, built once per program. Groups: 1 ALPHA GROUP with
- * companies 1 ZETA TRADERS and 2 (trickyName), deductees and employees, one of each named
- * trickyName; 2 BETA GROUP with company 3 BETA MILLS, whose responsible person lives in another
- * state than the company; 3 EMPTY GROUP, with nothing. The log holds three generations: 26Q of
- * company 1 in Q1 and Q2 and 27EQ of company 3, not in the order of their dates.
+ * companies 1 ZETA TRADERS and 2 (trickyName), both with a deductor type, deductees and
+ * employees, one of each named trickyName; 2 BETA GROUP with company 3 BETA MILLS, whose
+ * responsible person lives in another state than the company; 3 EMPTY GROUP, with nothing.
+ * The log holds three generations: 26Q of company 1 in Q1 and Q2 and 27EQ of company 3, not in
+ * the order of their dates. 26Q Statements: 1 of company 1 in Q1, two challans (94C, 94J),
+ * ZUBIN MEHTA under 94C twice and 94J once, trickyName under 94C, a row of a section outside
+ * the list; 2 of company 1 in Q2 and 3 of company 3 in Q1, one row each; 4 of company 2 in Q1,
+ * a challan without rows.
  */
 const TestStore &reportsStore();
 

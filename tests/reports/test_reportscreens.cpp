@@ -1,6 +1,7 @@
 #include "reportsstore.h"
 
 #include "core/session.h"
+#include "reports/frmform16report.h"
 #include "reports/frmgroupwisecompanydetails.h"
 #include "reports/report.h"
 #include "reports/reportpreview.h"
@@ -13,11 +14,14 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QTreeWidget>
 #include <QtTest>
 
 namespace {
@@ -43,6 +47,19 @@ struct Window
         return frame ? qobject_cast<ReportPreview *>(frame->widget()) : nullptr;
     }
 
+    /// A print entry of the menu, through the selection of a company of ALPHA GROUP in the
+    /// first quarter, to the screen it opens.
+    QWidget *select(const QString &entry, const QString &company, const QString &screen)
+    {
+        trigger(entry);
+        QWidget *login = window.findScreen("frmLogin")->widget();
+        auto *list = login->findChild<QTreeWidget *>("lstvComp");
+        list->setCurrentItem(list->findItems(company, Qt::MatchExactly).value(0));
+        login->findChild<QPushButton *>("cmdSelect")->click();
+        QMdiSubWindow *frame = window.findScreen(screen);
+        return frame ? frame->widget() : nullptr;
+    }
+
     Session session;
     ScriptedMessageBoxes boxes;
     MdiMain window;
@@ -62,6 +79,10 @@ private slots:
     void companyDetailsScreen();
     void form27AButtons();
     void printingWithoutPrinter();
+    void statementPrintouts_data();
+    void statementPrintouts();
+    void form16AScreen();
+    void olderCertificateScreen();
 };
 
 void TestReportScreens::menuReportsSaveTheStoreAsPdf_data()
@@ -209,6 +230,87 @@ void TestReportScreens::printingWithoutPrinter()
     main.trigger("mnuGroupMaster");
     main.preview("dRptGroupMaster")->findChild<QPushButton *>("cmdPrint")->click();
     QCOMPARE(main.boxes.texts(), QStringList{"Printer needs to installed for printing Reports"});
+}
+
+void TestReportScreens::statementPrintouts_data()
+{
+    testsuite::columns<QString, QString, QString>("company", "button", "viewer");
+    QTest::newRow("basic information") << "ZETA TRADERS" << "cmdBasic" << "Drpt26Basic";
+    QTest::newRow("challans") << "ZETA TRADERS" << "cmdChalln" << "crChallan26";
+    QTest::newRow("deductees") << "ZETA TRADERS" << "cmdEmployee" << "crAnnexure26";
+    QTest::newRow("challans without deductees") << trickyName << "cmdEmployee" << "";
+}
+
+void TestReportScreens::statementPrintouts()
+{
+    QFETCH(QString, company);
+    QFETCH(QString, button);
+    QFETCH(QString, viewer);
+    Window main(reportsStore());
+    QWidget *screen = main.select("mnuPrintForm26", company, "FrmReport");
+    QVERIFY(screen);
+    QCOMPARE(screen->findChild<QLineEdit *>("txtCompName")->text(), company);
+    QVERIFY(!screen->findChild<QPushButton *>("cmdPreq")->isEnabled());
+    screen->findChild<QPushButton *>(button)->click();
+    if (viewer.isEmpty()) {
+        QCOMPARE(main.boxes.texts(), QStringList{"No Record Found Preview Not Avilable"});
+        return;
+    }
+    QCOMPARE(main.boxes.texts(), QStringList());
+    ReportPreview *preview = main.preview(viewer);
+    QVERIFY(preview);
+    QVERIFY(preview->report().text().contains("ZETA TRADERS"));
+}
+
+void TestReportScreens::form16AScreen()
+{
+    Window main(reportsStore());
+    QWidget *screen = main.select("mnuForm16A26Q", "ZETA TRADERS", "frmForm16Report");
+    QVERIFY(screen);
+    QCOMPARE(screen->windowTitle(), "Form26Q :: TDS Certificate [Form 16A]");
+    QCOMPARE(screen->findChild<QLineEdit *>("txtQuator")->text(), "First Quarter");
+    auto *list = screen->findChild<QTreeWidget *>("lstDeductee");
+    QCOMPARE(list->topLevelItemCount(), 2);
+    auto *print = screen->findChild<QPushButton *>("cmdFormNo16A");
+    print->click();
+    QCOMPARE(main.boxes.texts(), QStringList{"Please select the Deductee !!"});
+
+    // Every row ticked, then a click on ZUBIN MEHTA's row takes its tick away again.
+    screen->findChild<QCheckBox *>("chkSelect")->setChecked(true);
+    QTreeWidgetItem *zubin = list->topLevelItem(1);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(zubin).center());
+    QCOMPARE(zubin->checkState(0), Qt::Unchecked);
+    screen->findChild<QLineEdit *>("txtPlace")->setText("  KOLKATA ");
+    QTemporaryDir folder;
+    QCOMPARE(static_cast<FrmForm16Report *>(screen)->savePdfs(folder.path()), 1);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
+             QStringList{"AAAPA2222A_O_Brien_Sons.pdf"});
+    print->click();
+    ReportPreview *preview = main.preview("FrmCrpt");
+    QVERIFY(preview);
+    QCOMPARE(preview->report().pageCount(), 1);
+    QVERIFY(preview->report().text().contains("Place : KOLKATA\t"));
+    QCOMPARE(main.boxes.texts().size(), 2); // the files saved, and nothing after
+}
+
+void TestReportScreens::olderCertificateScreen()
+{
+    Window main(reportsStore());
+    main.trigger("mnuCertificate16A");
+    QWidget *screen = main.window.findScreen("frmCertificate16A")->widget();
+    auto *companies = screen->findChild<QComboBox *>("cmbCompany");
+    QCOMPARE(companies->count(), 4); // a name for each Statement, as stored
+    companies->setCurrentIndex(0);
+    emit companies->activated(0);
+    auto *ok = screen->findChild<QPushButton *>("cmdOK");
+    ok->click();
+    screen->findChild<QPushButton *>("CmdSelAll")->click();
+    ok->click();
+    QCOMPARE(main.boxes.texts(), QStringList{"Please Select At Least One deductee."});
+    ReportPreview *preview = main.preview("crCertificate16A");
+    QVERIFY(preview);
+    // The row keys 1 to 3 of every 26Q Statement, as this path has always read them.
+    QCOMPARE(preview->report().text().count("FORM NO. 16A"), 7);
 }
 
 KELVORA_TEST_OBJECT(TestReportScreens);

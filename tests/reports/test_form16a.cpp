@@ -1,0 +1,245 @@
+#include "reportsstore.h"
+
+#include "core/formtraits.h"
+#include "reports/certificatebatch.h"
+#include "reports/form16adocument.h"
+#include "reports/form16aworktables.h"
+#include "reports/inwords.h"
+#include "reports/reportfile.h"
+#include "support/testsuite.h"
+
+#include <QDir>
+#include <QTextStream>
+#include <QtTest>
+
+namespace {
+
+/// Each certificate of the deductees read in turn: "deductee:name|section|dates|vouchers|total".
+QStringList certificates(const Form16AWorkTables &tables, const QList<int> &ids)
+{
+    QStringList result;
+    Form16ACertificateReader reader(tables.certificateRows(1, "Q1", ids, 1));
+    int deductee = 0;
+    for (QList<Form16ACertificate> next = reader.nextDeductee(); !next.isEmpty();
+         next = reader.nextDeductee(), ++deductee) {
+        for (const Form16ACertificate &certificate : next) {
+            QStringList dates;
+            QStringList vouchers;
+            for (const Form16APayment &payment : certificate.payments) {
+                dates << payment.paymentDate;
+                vouchers << payment.voucherNo;
+            }
+            result << QStringLiteral("%1:%2|%3|%4|%5|%6")
+                          .arg(deductee)
+                          .arg(certificate.deducteeName, certificate.sectionNo, dates.join(','),
+                               vouchers.join(','), certificate.totalTax().toText());
+        }
+    }
+    return result;
+}
+
+const Form16AWorkTables &filledTables()
+{
+    static const Form16AWorkTables tables = [] {
+        Form16AWorkTables made(reportsStore().store());
+        made.prepare();
+        made.fill(formTraits(FormKind::Form26Q));
+        return made;
+    }();
+    return tables;
+}
+
+} // namespace
+
+class TestForm16A : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void inWords_data();
+    void inWords();
+    void workTables_data();
+    void workTables();
+    void certificateAsPdf();
+    void frontEnd_data();
+    void frontEnd();
+};
+
+void TestForm16A::inWords_data()
+{
+    testsuite::columns<double, QString>("stored", "words");
+    QTest::newRow("thousands") << 5000.0 << "Five Thousand  only.";
+    QTest::newRow("hundreds and paise")
+        << 125.75 << "One Hundred Twenty Five  and Seventy Five paise only.";
+    QTest::newRow("a lakh, not made singular") << 100000.0 << "One Lakhs  only.";
+    QTest::newRow("a crore and paise") << 10000000.50 << "One Crores  and Fifty paise only.";
+    QTest::newRow("paise alone") << 0.50 << " and Fifty paise only.";
+    QTest::newRow("zero") << 0.0 << "Zero only";
+    QTest::newRow("99") << 99.0 << "Ninety Nine  only.";
+    QTest::newRow("10") << 10.0 << "Ten  only.";
+    QTest::newRow("20") << 20.0 << "Twenty  only.";
+    QTest::newRow("11") << 11.0 << "Eleven  only.";
+    QTest::newRow("nine digits")
+        << 999999999.99
+        << "Ninety Nine Crores Ninety Nine Lakhs Ninety Nine Thousand Nine Hundred Ninety Nine  "
+           "and Ninety Nine paise only.";
+    QTest::newRow("ten digits lose the last")
+        << 1234567890.12
+        << "Twelve Crores Thirty Four Lakhs Fifty Six Thousand Seven Hundred Eighty Nine  and "
+           "Twelve paise only.";
+    QTest::newRow("more decimals round first") << 2.675 << "Two  and Sixty Eight paise only.";
+}
+
+void TestForm16A::inWords()
+{
+    QFETCH(double, stored);
+    QFETCH(QString, words);
+    QCOMPARE(inwords::certificateWords(Money::fromStored(stored)), words);
+}
+
+void TestForm16A::workTables_data()
+{
+    testsuite::columns<QList<int>, QStringList, QStringList>("ids", "words", "certificates");
+    const QStringList zubinWords = {
+        "ZUBIN MEHTA|94C|Two Thousand Five Hundred Fifteen  only.",
+        "ZUBIN MEHTA|94J|Five Thousand  and Twenty Five paise only."};
+    QTest::newRow("one deductee under two sections, its own quarter and sections")
+        << QList<int>{1} << zubinWords
+        << QStringList{"0:ZUBIN MEHTA|94C|10/04/2026,20/04/2026|00011,00011|2515.00",
+                       "0:ZUBIN MEHTA|94J|15/05/2026|987654321|5000.25"};
+    QTest::newRow("two deductees by name")
+        << QList<int>{1, 2} << QStringList{trickyName + "|94C|Two Hundred  only."} + zubinWords
+        << QStringList{"0:" + trickyName + "|94C|25/04/2026|00011|200.00",
+                       "1:ZUBIN MEHTA|94C|10/04/2026,20/04/2026|00011,00011|2515.00",
+                       "1:ZUBIN MEHTA|94J|15/05/2026|987654321|5000.25"};
+    QTest::newRow("another company's deductee") << QList<int>{3} << QStringList()
+                                                << QStringList();
+    QTest::newRow("nothing ticked empties the words") << QList<int>() << QStringList()
+                                                      << QStringList();
+}
+
+void TestForm16A::workTables()
+{
+    QFETCH(QList<int>, ids);
+    QFETCH(QStringList, words);
+    QFETCH(QStringList, certificates);
+    const Form16AWorkTables &tables = filledTables();
+    QCOMPARE(tables.deductees(1, "Q1"),
+             (QList<Form16AWorkTables::Deductee>{{2, trickyName}, {1, "ZUBIN MEHTA"}}));
+
+    QCOMPARE(tables.fillWords(1, "Q1", ids), words.size());
+    QStringList stored;
+    QSqlQuery query = reportsStore().store().exec(
+        "SELECT DeducteeName, DeducteeSectionNo, InWords FROM Temp_DeducteeSection "
+        "ORDER BY DeducteeName, DeducteeSectionNo");
+    while (query.next()) {
+        stored << QStringList{query.value(0).toString(), query.value(1).toString(),
+                              query.value(2).toString()}
+                      .join('|');
+    }
+    QCOMPARE(stored, words);
+    QCOMPARE(::certificates(tables, ids), certificates);
+}
+
+void TestForm16A::certificateAsPdf()
+{
+    if (!canReadPdf())
+        QSKIP("pdftotext (poppler-utils) is not installed");
+    const Form16AWorkTables &tables = filledTables();
+    tables.fillWords(1, "Q1", {1});
+    Form16ACertificateReader reader(tables.certificateRows(1, "Q1", {1}, 1));
+    const Form16AHeading heading{form16APeriod("Q1", "2026"),
+                                 {"ACK-77", "KOLKATA", "15/07/2026", "RAVI KUMAR", "DIRECTOR",
+                                  "NIL"}};
+    const Report report = form16adocument::build(reader.nextDeductee(), heading);
+    QCOMPARE(report.pageCount(), 2);
+    QVERIFY(report.text().contains("(Rupees Two Thousand Five Hundred Fifteen  only.)"));
+
+    QTemporaryDir folder;
+    const QString pdf = folder.filePath("certificate.pdf");
+    QCOMPARE(reportfile::save(report, reportfile::Format::Pdf, pdf), QString());
+    expectInOrder(pdfText(pdf).simplified(),
+                  {"FORM NO. 16A", "From 01/04/2026 To 30/06/2026", "ZETA TRADERS",
+                   "ZUBIN MEHTA", "1 ZETA HOUSE", "ZETA TOWER", "MG ROAD", "BOWBAZAR",
+                   "CALZ12345A", "AAAPZ1111Z", "ACK-77", "94C",
+                   "Payments to contractors", "25,000.00", "10/04/2026", "515.00", "1,00,000.00",
+                   "2,000.00", "Total 1,25,000.00", "2,515.00",
+                   "Rs. 2,515.00 (Rupees Two Thousand Five Hundred Fifteen only.)", "NIL",
+                   "KOLKATA", "RAVI KUMAR", "DIRECTOR", "94J", "987654321", "5,000.25",
+                   "Five Thousand and Twenty Five paise only."});
+}
+
+void TestForm16A::frontEnd_data()
+{
+    testsuite::columns<QStringList, int, QStringList>("arguments", "status", "files");
+    const QStringList company1{"--form", "26Q", "--quarter", "Q1", "--company", "1"};
+    const QStringList zubin{"AAAPZ1111Z_ZUBIN_MEHTA.pdf"};
+    QTest::newRow("every deductee, a file each")
+        << company1 << 0 << QStringList{"AAAPA2222A_O_Brien_Sons.pdf", zubin.first()};
+    QTest::newRow("company by TAN, deductee by PAN")
+        << QStringList{"--form", "26q", "--quarter", "q1", "--company", "CALZ12345A",
+                       "--deductee", "AAAPZ1111Z"}
+        << 0 << zubin;
+    QTest::newRow("deductee by name in any case")
+        << company1 + QStringList{"--deductee", "zubin mehta"} << 0 << zubin;
+    QTest::newRow("unknown deductee") << company1 + QStringList{"--deductee", "NOBODY"} << 1
+                                      << QStringList();
+    QTest::newRow("a quarter without rows")
+        << QStringList{"--form", "26Q", "--quarter", "Q3", "--company", "1"} << 1
+        << QStringList();
+    QTest::newRow("unknown company")
+        << QStringList{"--form", "26Q", "--quarter", "Q1", "--company", "99"} << 1
+        << QStringList();
+    QTest::newRow("24Q has no certificates")
+        << QStringList{"--form", "24Q", "--quarter", "Q1", "--company", "1"} << 2
+        << QStringList();
+    QTest::newRow("no quarter") << QStringList{"--form", "26Q", "--company", "1"} << 2
+                                << QStringList();
+    QTest::newRow("a wait that is no number") << company1 + QStringList{"--wait", "soon"} << 2
+                                              << QStringList();
+    QTest::newRow("no such store") << company1 + QStringList{"--store", "/nonexistent/K.db"} << 3
+                                   << QStringList();
+    QTest::newRow("output is a file") << company1 + QStringList{"--output", "FILE"} << 3
+                                      << QStringList();
+}
+
+void TestForm16A::frontEnd()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QStringList, files);
+    QTemporaryDir folder;
+    const QString output = folder.filePath("certificates");
+    QFile file(folder.filePath("a file"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    arguments.replaceInStrings(QRegularExpression("^FILE$"), file.fileName());
+    // The last of an option given twice counts: the cases' own store and folder win.
+    arguments = QStringList{"kelvora-certificates", "--store", reportsStore().store().path(),
+                            "--output", output}
+                + arguments;
+
+    QString out;
+    QString err;
+    QTextStream outStream(&out);
+    QTextStream errStream(&err);
+    QString error;
+    const std::optional<CertificateBatch::Options> options =
+        CertificateBatch::parse(arguments, error);
+    const int result = options ? CertificateBatch(outStream, errStream).run(*options)
+                               : int(CertificateBatch::UsageError);
+    QCOMPARE(result, status);
+    QCOMPARE(QDir(output).entryList(QDir::Files, QDir::Name), files);
+    if (status == 0) {
+        QVERIFY2(err.isEmpty(), qPrintable(err));
+        QCOMPARE(out.count('\n'), files.size() + 1);
+        QVERIFY(out.endsWith(QStringLiteral("%1 file%2 written\n")
+                                 .arg(files.size())
+                                 .arg(files.size() == 1 ? "" : "s")));
+    } else {
+        QVERIFY(options ? !err.isEmpty() : !error.isEmpty());
+    }
+}
+
+KELVORA_TEST_OBJECT(TestForm16A);
+
+#include "test_form16a.moc"
