@@ -15,10 +15,10 @@ std::optional<Message> message(int kind)
     case ConfirmDelete:
         return Message{QStringLiteral("Are you sure to proceed with the Deletion?"),
                        QStringLiteral("Confirm Delete"), MessageIcon::Question,
-                       MessageButtons::YesNo};
+                       MessageButtons::YesNo, true};
     case ConfirmExit:
         return Message{QStringLiteral("Do you wish to Exit?"), appTitle, MessageIcon::Question,
-                       MessageButtons::YesNo};
+                       MessageButtons::YesNo, true};
     case DuplicateCode:
         return Message{QStringLiteral("The CODE you have entered is DUPLICATE "),
                        QStringLiteral("Duplicate Entry"), MessageIcon::Information,

@@ -16,6 +16,9 @@ struct Message
     QString title = appTitle;
     MessageIcon icon = MessageIcon::Information;
     MessageButtons buttons = MessageButtons::Ok;
+    /// No is the default button: a question that deletes or ends something is not confirmed by
+    /// a stray Enter.
+    bool defaultNo = false;
 
     bool operator==(const Message &) const = default;
 };

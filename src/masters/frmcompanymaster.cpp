@@ -204,7 +204,7 @@ void FrmCompanyMaster::deleteCompany()
         return;
     }
     if (m_boxes.show({CompanyMaster::confirmDeleteText, CompanyMaster::confirmationTitle,
-                      MessageIcon::Question, MessageButtons::YesNo})
+                      MessageIcon::Question, MessageButtons::YesNo, true})
         != Answer::Yes)
         return;
     const QTreeWidgetItem *row = m_list->currentItem();

@@ -213,7 +213,7 @@ void FrmGroupMaster::deleteGroup()
         return;
     const int id = row->text(CodeColumn).toInt();
     const Message confirm{GroupMaster::confirmDeleteText, GroupMaster::confirmationTitle,
-                          MessageIcon::Question, MessageButtons::YesNo};
+                          MessageIcon::Question, MessageButtons::YesNo, true};
     if (m_boxes.show(confirm) != Answer::Yes)
         return;
     try {

@@ -299,7 +299,8 @@ void MdiMain::exitProgram()
 
 bool MdiMain::confirmExit()
 {
-    return m_boxes.show({exitQuestion, appTitle, MessageIcon::Question, MessageButtons::YesNo})
+    return m_boxes.show(
+               {exitQuestion, appTitle, MessageIcon::Question, MessageButtons::YesNo, true})
            == Answer::Yes;
 }
 
@@ -310,7 +311,7 @@ void MdiMain::launchBackup()
                        "will be aborted and all opened windows will get closed. \n"
                        "Want to Continue with Backup/Restore operations ? [When you Close the \n"
                        "Backup/Restore window you will come back to the Kelvora application]"),
-        appTitle, MessageIcon::Question, MessageButtons::YesNo};
+        appTitle, MessageIcon::Question, MessageButtons::YesNo, true};
     if (m_boxes.show(question) == Answer::No)
         return;
 

@@ -145,8 +145,9 @@ private slots:
             f.trigger("mnuMaster(50)");
         else
             f.window.close();
-        QCOMPARE(f.boxes.shown, QList<Message>({{MdiMain::exitQuestion, appTitle,
-                                                 MessageIcon::Question, MessageButtons::YesNo}}));
+        QCOMPARE(f.boxes.shown,
+                 QList<Message>({{MdiMain::exitQuestion, appTitle, MessageIcon::Question,
+                                  MessageButtons::YesNo, true}}));
         QCOMPARE(f.ended, answer == Answer::Yes);
         if (answer == Answer::No) {
             QVERIFY(f.window.isVisible());
@@ -181,6 +182,7 @@ private slots:
         f.boxes.answerNext(answer);
         f.trigger("Tool(1)");
         QCOMPARE(f.boxes.shown.first().buttons, MessageButtons::YesNo);
+        QVERIFY(f.boxes.shown.first().defaultNo);
         QVERIFY(f.boxes.shown.first().text.startsWith("For Backup & Restore, the Kelvora "));
         QCOMPARE(f.ended, ends);
         QCOMPARE(f.boxes.shown.size(), programThere || answer == Answer::No ? 1 : 2);
