@@ -14,8 +14,11 @@ QMdiSubWindow *showInArea(QMdiArea *area, QWidget *screen)
     frame->setAttribute(Qt::WA_DeleteOnClose);
     frame->setWindowIcon(area->window()->windowIcon());
     frame->show();
-    // The frame comes up at a default size; each screen knows the size it is drawn for.
-    frame->resize(frame->size() + wanted - screen->size());
+    // The frame comes up at a default size; each screen knows the size it is drawn for. On a
+    // small display the screen's layout gives way down to its minimum, so that its command
+    // buttons stay in sight.
+    const QSize drawn = frame->size() + wanted - screen->size();
+    frame->resize(drawn.boundedTo(area->viewport()->size()).expandedTo(frame->minimumSizeHint()));
     if (frame->geometry().bottom() > area->viewport()->height())
         frame->move(0, 0);
     return frame;

@@ -15,9 +15,9 @@ namespace screenroutines {
 /// alone (as in tests).
 void closeScreen(QWidget *screen);
 
-/// Shows a screen in a window of the main window's area at the size it is drawn for; a window
-/// that would run past the bottom of the area starts at its top instead. The window goes when
-/// it is closed.
+/// Shows a screen in a window of the main window's area at the size it is drawn for, or smaller
+/// down to its minimum when the area is smaller; a window that would run past the bottom of the
+/// area starts at its top instead. The window goes when it is closed.
 QMdiSubWindow *showInArea(QMdiArea *area, QWidget *screen);
 
 /// A key press of Enter, on the main keyboard or the keypad: entry moves along the fields on it.

@@ -57,6 +57,10 @@ FrmEmployeeMaster::FrmEmployeeMaster(Session &session, MessageBoxes &boxes, QWid
 
     finishSetUp(QStringLiteral("Employee ID"), QStringLiteral("Employee Na&me"), grid,
                 {m_designation, m_fromDate, m_toDate, m_category});
+    // Tab follows the rows as drawn; Enter keeps its own way through the dates first.
+    setTabOrder(m_designation, m_category);
+    setTabOrder(m_category, m_fromDate);
+    setTabOrder(m_fromDate, m_toDate);
 }
 
 void FrmEmployeeMaster::updateEmpInfo()

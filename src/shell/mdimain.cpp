@@ -8,9 +8,10 @@
 #include "core/session.h"
 #include "core/startup.h"
 #include "core/storeerror.h"
+#include "shell/screenmnemonics.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -62,6 +63,7 @@ MdiMain::MdiMain(const QString &programFolder, Session &session, MessageBoxes &b
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(m_area);
+    qApp->installEventFilter(new ScreenMnemonics(m_area, this));
 
     setScreenFactory(QStringLiteral("frmLogin"), [this] {
         auto *login = new FrmLogin(m_session, m_boxes);
