@@ -68,7 +68,11 @@ FrmGroupMaster::FrmGroupMaster(Session &session, MessageBoxes &boxes, QWidget *p
     // Only shows what exists already; the keyboard stays in the name field.
     m_matches->setObjectName(QStringLiteral("lstGrp"));
     m_matches->setFocusPolicy(Qt::NoFocus);
-    m_matches->setMaximumHeight(120);
+    // Its place is kept while hidden, so that the list above does not jump when it shows.
+    m_matches->setFixedHeight(120);
+    QSizePolicy keepPlace = m_matches->sizePolicy();
+    keepPlace.setRetainSizeWhenHidden(true);
+    m_matches->setSizePolicy(keepPlace);
     m_matches->hide();
 
     auto *codeLabel = new QLabel(QStringLiteral("Group Code"), this);
