@@ -1,24 +1,46 @@
 #include "core/datastore.h"
-#include "shell/mdimain.h"
+#include "core/programlayout.h"
 #include "core/qtmessageboxes.h"
 #include "core/session.h"
 #include "core/startup.h"
 #include "core/storeerror.h"
+#include "shell/mdimain.h"
 #include "shell/screenfactories.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QIcon>
 
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(appTitle);
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(QStringLiteral(":/icons/kelvora-%1.png").arg(size));
+    QApplication::setWindowIcon(icon);
     const QString programFolder = QApplication::applicationDirPath();
     QtMessageBoxes boxes;
+
+    // Installed, the store lives in the user's data folder and is made there on first start.
+    const QString storeFolder = programlayout::storeFolder(programFolder);
+    if (programlayout::isInstalled(programFolder)
+        && !QFileInfo::exists(QDir(storeFolder).filePath(DataStore::fileName))) {
+        const QString failure = programlayout::makeStoreIfMissing(programFolder, storeFolder);
+        if (!failure.isEmpty()) {
+            boxes.show({failure, appTitle, MessageIcon::Critical, MessageButtons::Ok});
+            return 1;
+        }
+        boxes.show({QStringLiteral("A new data store was made for you in\n%1")
+                        .arg(QDir::toNativeSeparators(storeFolder)),
+                    appTitle, MessageIcon::Information, MessageButtons::Ok});
+    }
 
     // Without its data store the program has nothing to show: one box, and no main window.
     std::optional<OpenedStore> opened;
     try {
-        opened = startup::openStore(programFolder, boxes);
+        opened = startup::openStore(storeFolder, boxes);
     } catch (const StoreError &error) {
         boxes.show({error.description(), error.code().isEmpty() ? appTitle : error.code(),
                     MessageIcon::Critical, MessageButtons::Ok});
