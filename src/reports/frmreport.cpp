@@ -205,8 +205,9 @@ void FrmReport::showPanel(bool shown)
     m_panel->setVisible(shown);
     if (shown)
         m_panelBoxes.first()->setFocus();
-    if (auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget()))
-        frame->adjustSize();
-    else
-        adjustSize();
+    // The window grows or shrinks to the panel, keeping its width.
+    QWidget *window = qobject_cast<QMdiSubWindow *>(parentWidget()) ? parentWidget() : this;
+    const int width = window->width();
+    window->adjustSize();
+    window->resize(width, window->height());
 }

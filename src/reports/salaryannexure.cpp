@@ -97,14 +97,14 @@ Report build(const DataStore &store, const PrintoutHeading &heading)
             return records::nullToText(query.value(record.indexOf(QLatin1String(column))));
         };
         report.space(10);
-        report.band({ReportCell(QStringLiteral("[327] ") + text("SrlNo"), 0, 0.08),
-                     ReportCell(QStringLiteral("[329] ") + text("EmpName"), 0.08, 0.37),
-                     ReportCell(QStringLiteral("[328] ") + text("Pan"), 0.45, 0.18),
+        report.band({ReportCell(QStringLiteral("[327] ") + text("SrlNo"), 0, 0.1),
+                     ReportCell(QStringLiteral("[329] ") + text("EmpName"), 0.1, 0.3),
+                     ReportCell(QStringLiteral("[328] ") + text("Pan"), 0.4, 0.24),
                      ReportCell(QStringLiteral("[331] ")
                                     + reportformat::storedDateText(text("FromDate"))
                                     + QStringLiteral(" To ")
                                     + reportformat::storedDateText(text("ToDate")),
-                                0.63, 0.37, Qt::AlignRight)},
+                                0.64, 0.36, Qt::AlignRight)},
                     ReportFont::Bold);
         report.rule();
         report.keepWithNext();

@@ -7,6 +7,8 @@
 #include "reports/reportbuilder.h"
 #include "reports/reportformat.h"
 
+#include <algorithm>
+
 
 namespace statementannexures {
 
@@ -22,8 +24,13 @@ struct Column
     QString column;
     int item;
     Kind kind;
-    double width;
+    double width; ///< points of a landscape page's body; 0 for the column that takes the rest
 };
+
+/// The width of a landscape A4 page between its margins, in points.
+constexpr double bodyWidth = 770;
+/// The least that the column taking the rest keeps, so that a name stays readable.
+constexpr double leastRest = 60;
 
 QString cellText(const QVariant &value, Kind kind)
 {
@@ -38,19 +45,21 @@ QString cellText(const QVariant &value, Kind kind)
     return records::nullToText(value);
 }
 
-/// The columns that the form has, with their item numbers under their heads and the widths
-/// spread over the whole body.
+/// The columns that the form has, with their item numbers under their heads, as parts of the
+/// body: one column takes what the others leave, and all shrink alike when that is too little.
 QList<ReportColumn> reportColumns(const QList<Column> &columns)
 {
-    double total = 0;
+    double fixed = 0;
     for (const Column &column : columns)
-        total += column.width;
+        fixed += column.width;
+    const double rest = std::max(leastRest, bodyWidth - fixed);
+    const double total = fixed + rest;
     QList<ReportColumn> result;
     for (const Column &column : columns) {
         const QString heading = column.item > 0 ? column.heading + QStringLiteral("\n[%1]")
                                                                         .arg(column.item)
                                                 : column.heading;
-        result.append({heading, column.width / total,
+        result.append({heading, (column.width > 0 ? column.width : rest) / total,
                        column.kind == Kind::Amount ? Qt::AlignRight : Qt::AlignLeft});
     }
     return result;
@@ -106,32 +115,34 @@ std::optional<Report> challans(const DataStore &store, const FormTraits &form, i
     const auto item = [&form](ChallanItem which) { return form.challanItem(which); };
     QList<Column> columns = {
         {QStringLiteral("Sl. No."), QStringLiteral("SlNo"), item(ChallanItem::Serial),
-         Kind::Text, 5},
+         Kind::Text, 40},
         {form.collectsTax ? QStringLiteral("Collection\nCode") : QStringLiteral("Section"),
-         QStringLiteral("Section"), item(ChallanItem::Section), Kind::Text, 6},
-        {taxWord(form), QStringLiteral("AmountDeducted"), item(ChallanItem::Tds), Kind::Amount, 9},
+         QStringLiteral("Section"), item(ChallanItem::Section), Kind::Text, 56},
+        {taxWord(form), QStringLiteral("AmountDeducted"), item(ChallanItem::Tds), Kind::Amount,
+         60},
         {QStringLiteral("Surcharge"), QStringLiteral("Surcharge"), item(ChallanItem::Surcharge),
-         Kind::Amount, 8},
+         Kind::Amount, 62},
         {QStringLiteral("Education\nCess"), QStringLiteral("EduCess"), item(ChallanItem::Cess),
-         Kind::Amount, 8},
+         Kind::Amount, 58},
         {QStringLiteral("Interest"), QStringLiteral("Interest"), item(ChallanItem::Interest),
-         Kind::Amount, 7},
+         Kind::Amount, 52},
         {QStringLiteral("Others"), QStringLiteral("Others"), item(ChallanItem::Others),
-         Kind::Amount, 7},
+         Kind::Amount, 52},
         {QStringLiteral("Total tax\ndeposited"), QStringLiteral("Total"), item(ChallanItem::Total),
-         Kind::Amount, 9},
+         Kind::Amount, 62},
         {QStringLiteral("Cheque /\nDD No."), QStringLiteral("ChqDDNo"), item(ChallanItem::Cheque),
-         Kind::Text, 8},
+         Kind::Text, 0},
         {QStringLiteral("BSR Code"), QStringLiteral("BankCode"), item(ChallanItem::Bank),
-         Kind::Text, 7},
+         Kind::Text, 50},
         {QStringLiteral("Date of\ndeposit"), QStringLiteral("DtTrVoucher"),
-         item(ChallanItem::Date), Kind::Date, 7},
+         item(ChallanItem::Date), Kind::Date, 60},
         {QStringLiteral("Challan No."), QStringLiteral("TrVoucherNo"),
-         item(ChallanItem::ChallanNo), Kind::Text, 8},
+         item(ChallanItem::ChallanNo), Kind::Text, 56},
         {QStringLiteral("Transfer\nVoucher No."), QStringLiteral("TransferVoucherNo"),
-         item(ChallanItem::VoucherNo), Kind::Text, 8},
-        {QStringLiteral("Book\nEntry"), QStringLiteral("BookEntry"), -1, Kind::Text, 4},
+         item(ChallanItem::VoucherNo), Kind::Text, 64},
+        {QStringLiteral("Book\nEntry"), QStringLiteral("BookEntry"), -1, Kind::Text, 36},
     };
+
     columns.removeIf([](const Column &column) { return column.item == 0; });
     QSqlQuery query = store.exec(
         QStringLiteral("SELECT %1 FROM %2 WHERE BasicIfoID = ? ORDER BY SlNo")
@@ -166,33 +177,37 @@ std::optional<Report> annexure(const DataStore &store, const FormTraits &form, i
     const QString extra = form.grossingUpColumn.isEmpty() ? form.purchaseColumn
                                                           : form.grossingUpColumn;
     QList<Column> columns = {
-        {QStringLiteral("Sr.\nNo."), QStringLiteral("SrlNo"), -1, Kind::Text, 4},
+        {QStringLiteral("Sr.\nNo."), QStringLiteral("SrlNo"), -1, Kind::Text, 34},
         {QStringLiteral("Section"), QStringLiteral("Section"),
-         form.challanHasSection() ? -1 : 0, Kind::Text, 5},
+         form.challanHasSection() ? -1 : 0, Kind::Text, 44},
         {QStringLiteral("Code"), QStringLiteral("DeducteeCode"), item(AnnexureItem::Code),
-         Kind::Text, 4},
-        {QStringLiteral("PAN"), QStringLiteral("PAN"), item(AnnexureItem::Pan), Kind::Text, 9},
+         Kind::Text, 34},
+        {QStringLiteral("PAN"), QStringLiteral("PAN"), item(AnnexureItem::Pan), Kind::Text, 68},
         {form.partyWord + QStringLiteral(" Name"), form.partyNameColumn,
-         item(AnnexureItem::Name), Kind::Text, 20},
+         item(AnnexureItem::Name), Kind::Text, 0},
         {QStringLiteral("Amount\npaid"), QStringLiteral("AmtOfPayment"),
-         item(AnnexureItem::Amount), Kind::Amount, 9},
+         item(AnnexureItem::Amount), Kind::Amount, 62},
         {QStringLiteral("Date of\npayment"), QStringLiteral("PaymentDt"),
-         item(AnnexureItem::Date), Kind::Date, 7},
-        {QStringLiteral("Rate"), QStringLiteral("Rate"), item(AnnexureItem::Rate), Kind::Text, 4},
-        {QStringLiteral("Tax"), QStringLiteral("Tax"), item(AnnexureItem::Tax), Kind::Amount, 8},
+         item(AnnexureItem::Date), Kind::Date, 60},
+        {QStringLiteral("Rate"), QStringLiteral("Rate"), item(AnnexureItem::Rate), Kind::Text,
+         34},
+        {QStringLiteral("Tax"), QStringLiteral("Tax"), item(AnnexureItem::Tax), Kind::Amount,
+         56},
         {QStringLiteral("Surcharge"), QStringLiteral("Surcharge"),
-         item(AnnexureItem::Surcharge), Kind::Amount, 7},
+         item(AnnexureItem::Surcharge), Kind::Amount, 62},
         {QStringLiteral("Cess"), QStringLiteral("Cess"), item(AnnexureItem::Cess), Kind::Amount,
-         7},
+         46},
         {QStringLiteral("Total"), QStringLiteral("Total"), item(AnnexureItem::Total),
-         Kind::Amount, 8},
+         Kind::Amount, 56},
         {QStringLiteral("Tax\ndeposited"), QStringLiteral("TaxAmount"),
-         item(AnnexureItem::Deposited), Kind::Amount, 8},
-        {QStringLiteral("Date of\ndeduction"), QStringLiteral("TaxDeductDt"), -1, Kind::Date, 7},
+         item(AnnexureItem::Deposited), Kind::Amount, 58},
+        {QStringLiteral("Date of\ndeduction"), QStringLiteral("TaxDeductDt"), -1, Kind::Date,
+         60},
         {form.collectsTax ? QStringLiteral("Value of\npurchase") : QStringLiteral("Grossing\nup"),
          extra, extra.isEmpty() ? 0 : item(AnnexureItem::Extra),
-         form.collectsTax ? Kind::Amount : Kind::Text, form.collectsTax ? 8.0 : 5.0},
+         form.collectsTax ? Kind::Amount : Kind::Text, form.collectsTax ? 60.0 : 52.0},
     };
+
     columns.removeIf([](const Column &column) { return column.item == 0; });
     // The challan's own columns follow the row's.
     QSqlQuery query = store.exec(
