@@ -116,9 +116,10 @@ private slots:
             if (s.focused() != visited.last()) // a date takes a Tab for each of its parts
                 visited << s.focused();
         }
-        // Leaving the blank PAN writes the placeholder and opens the PAN reference.
+        // Leaving the blank PAN writes the placeholder and opens the PAN reference; Category
+        // comes beside Designation, as drawn.
         QCOMPARE(visited, (QStringList{"cmbGrp", "txtEmpName", "txtPAN", "txtPanRef",
-                                       "txtDesignation", "dtpFromDate", "DtpToDate", "cmbCat",
+                                       "txtDesignation", "cmbCat", "dtpFromDate", "DtpToDate",
                                        "cmd(0)", "cmd(1)", "cmd(4)", "cmdClose", "lstvDedt",
                                        "cmbGrp"}));
     }
