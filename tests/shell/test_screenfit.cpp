@@ -78,10 +78,12 @@ private slots:
         testsuite::columns<QString, bool>("entry", "select");
         for (const char *entry : {"mnuMaster(0)", "mnuMaster(1)", "mnuMaster(2)", "mnuMaster(3)",
                                   "mnuMaster(4)", "mnuMaster(6)", "mnuMaster(7)", "Tool(2)",
-                                  "mnuImpData", "mnuGroupMaster", "mnuGroupWiseCompanyDetails"})
+                                  "mnuImpData", "mnuGroupMaster", "mnuGroupWiseCompanyDetails",
+                                  "mnuGroupwiseCompanyList", "mnuCertificate16A"})
             QTest::newRow(entry) << entry << false;
         QTest::newRow("selection") << "mnuForm26" << false;
-        for (const char *entry : {"mnuform24", "mnuForm26", "mnuForm27", "mnuForm27E"})
+        for (const char *entry : {"mnuform24", "mnuForm26", "mnuForm27", "mnuForm27E",
+                                  "mnuPrintForm26", "mnuForm16A26Q"})
             QTest::newRow(entry) << entry << true;
     }
     void buttonsInsideTheArea()
