@@ -6,7 +6,9 @@
 #include "support/teststore.h"
 #include "support/testsuite.h"
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -48,6 +50,20 @@ struct Fixture
         QAction *action = window.findChild<QAction *>(QLatin1String(entry));
         QVERIFY2(action, entry);
         action->trigger();
+    }
+
+    // The menu entry's screen, through the company selection's Select when asked to.
+    QWidget *openThrough(const QString &entry, bool select)
+    {
+        trigger(qPrintable(entry));
+        if (select) {
+            QMdiSubWindow *login = window.findScreen(QStringLiteral("frmLogin"));
+            if (!login)
+                return nullptr;
+            login->widget()->findChild<QPushButton *>(QStringLiteral("cmdSelect"))->click();
+        }
+        QMdiSubWindow *frame = window.mdiArea()->activeSubWindow();
+        return frame ? frame->widget() : nullptr;
     }
 
     int openScreens(const QString &screen) const
@@ -192,6 +208,66 @@ private slots:
         }
         if (ends)
             QTRY_VERIFY(QFile::exists(marker));
+    }
+
+    // On the office laptop's 1366x768 display (the maximized window below its title bar and
+    // above the desktop's panel) every command button of a screen is in sight, none past the
+    // edge of the area where only scrolling would show it.
+    void buttonsInsideTheArea_data()
+    {
+        testsuite::columns<QString, bool>("entry", "select");
+        for (const char *entry : {"mnuMaster(0)", "mnuMaster(1)", "mnuMaster(2)", "mnuMaster(3)",
+                                  "mnuMaster(4)", "mnuMaster(6)", "mnuMaster(7)", "Tool(2)",
+                                  "mnuImpData", "mnuGroupMaster", "mnuGroupWiseCompanyDetails",
+                                  "mnuGroupwiseCompanyList", "mnuCertificate16A"})
+            QTest::newRow(entry) << entry << false;
+        QTest::newRow("selection") << "mnuForm26" << false;
+        for (const char *entry : {"mnuform24", "mnuForm26", "mnuForm27", "mnuForm27E",
+                                  "mnuPrintForm26", "mnuForm16A26Q"})
+            QTest::newRow(entry) << entry << true;
+    }
+    void buttonsInsideTheArea()
+    {
+        QFETCH(QString, entry);
+        QFETCH(bool, select);
+        Fixture f;
+        f.window.resize(1366, 700);
+        QWidget *screen = f.openThrough(entry, select);
+        QVERIFY(screen);
+        QWidget *viewport = f.window.mdiArea()->viewport();
+        for (const QAbstractButton *button : screen->findChildren<QAbstractButton *>()) {
+            const QRect place(button->mapTo(viewport, QPoint(0, 0)), button->size());
+            QVERIFY2(!button->isVisible() || viewport->rect().contains(place),
+                     qPrintable(button->objectName()));
+        }
+    }
+
+    // Alt and a letter of the active screen moves to its field although the menu bar has it.
+    void mnemonicsBeatTheMenuBar_data()
+    {
+        testsuite::columns<QString, QString, Qt::Key, QString>("entry", "start", "key", "field");
+        QTest::newRow("deductee code")
+            << "mnuMaster(4)" << "cmd(0)" << Qt::Key_U << "cmbDeducteeCode";
+        QTest::newRow("state") << "mnuMaster(4)" << "cmd(0)" << Qt::Key_T << "cmbState";
+        QTest::newRow("name") << "mnuMaster(4)" << "cmd(0)" << Qt::Key_M << "txtDeducteeName";
+        QTest::newRow("to date") << "mnuMaster(3)" << "cmd(0)" << Qt::Key_T << "DtpToDate";
+        QTest::newRow("refresh") << "Tool(2)" << "" << Qt::Key_R << "cmdRefresh";
+    }
+    void mnemonicsBeatTheMenuBar()
+    {
+        QFETCH(QString, entry);
+        QFETCH(QString, start);
+        QFETCH(Qt::Key, key);
+        Fixture f;
+        QApplication::setActiveWindow(&f.window);
+        QWidget *screen = f.openThrough(entry, false);
+        QVERIFY(screen);
+        if (!start.isEmpty())
+            screen->findChild<QPushButton *>(start)->click();
+        QVERIFY(screen->isAncestorOf(QApplication::focusWidget()));
+        QTest::keyClick(QApplication::focusWidget(), key, Qt::AltModifier);
+        QVERIFY(!QApplication::activePopupWidget());
+        QTEST(QApplication::focusWidget()->objectName(), "field");
     }
 
     void loadFailureLeavesTheWindowUp()
