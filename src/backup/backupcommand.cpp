@@ -16,7 +16,8 @@ std::optional<BackupCommand::Options> BackupCommand::parse(const QStringList &ar
     const QCommandLineOption store(QStringLiteral("store"), {}, QStringLiteral("PATH"));
     const QCommandLineOption to(QStringLiteral("to"), {}, QStringLiteral("DIR"));
     const QCommandLineOption keep(QStringLiteral("keep"), {}, QStringLiteral("N"));
-    const QCommandLineOption fromKelvora(QStringLiteral("from-kelvora"));
+    const QCommandLineOption fromKelvora(QStringLiteral("from-kelvora"), {},
+                                         QStringLiteral("STORE"));
     parser.addOptions({store, to, keep, fromKelvora});
     if (!parser.parse(arguments)) {
         error = parser.errorText();
@@ -30,6 +31,13 @@ std::optional<BackupCommand::Options> BackupCommand::parse(const QStringList &ar
     options.storePath = parser.value(store);
     options.folder = parser.value(to);
     options.fromKelvora = parser.isSet(fromKelvora);
+    if (options.fromKelvora) {
+        if (parser.isSet(store) || parser.isSet(to)) {
+            error = QStringLiteral("--from-kelvora names the store and opens the window");
+            return std::nullopt;
+        }
+        options.storePath = parser.value(fromKelvora);
+    }
     if (parser.isSet(to) && (options.folder.isEmpty() || options.storePath.isEmpty())) {
         error = QStringLiteral("a backup without the window needs --store PATH and --to DIR");
         return std::nullopt;

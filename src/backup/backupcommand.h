@@ -23,10 +23,10 @@ public:
 
     struct Options
     {
-        QString storePath;        ///< empty: the store beside the program (window only)
+        QString storePath;        ///< empty: the program's own store (window only)
         QString folder;           ///< --to; empty for the window
         int keep = 0;             ///< --keep; 0 keeps every backup
-        bool fromKelvora = false; ///< started by the program's menu, which is ending
+        bool fromKelvora = false; ///< started by the program's menu on its store; it is ending
         bool withoutWindow() const { return !folder.isEmpty(); }
     };
 

@@ -190,7 +190,7 @@ private slots:
         QFile program(folder.filePath(QStringLiteral("Backup")));
         if (programThere) {
             QVERIFY(program.open(QIODevice::WriteOnly));
-            program.write(QStringLiteral("#!/bin/sh\ntouch '%1'\n").arg(marker).toUtf8());
+            program.write(QStringLiteral("#!/bin/sh\necho \"$*\" > '%1'\n").arg(marker).toUtf8());
             program.close();
             program.setPermissions(program.permissions() | QFile::ExeOwner);
         }
@@ -206,8 +206,14 @@ private slots:
             QCOMPARE(f.boxes.shown.last().icon, MessageIcon::Critical);
             QVERIFY(f.boxes.shown.last().text.contains(u"backup program was not found"));
         }
-        if (ends)
-            QTRY_VERIFY(QFile::exists(marker));
+        if (ends) {
+            // Told so, the backup program works on this store and starts Kelvora again.
+            const auto arguments = [&marker] {
+                QFile started(marker);
+                return started.open(QIODevice::ReadOnly) ? started.readAll().trimmed() : "";
+            };
+            QTRY_COMPARE(arguments(), "--from-kelvora " + f.session.store.path().toUtf8());
+        }
     }
 
     // On the office laptop's 1366x768 display (the maximized window below its title bar and

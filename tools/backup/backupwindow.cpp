@@ -74,7 +74,9 @@ BackupWindow::BackupWindow(const QString &storePath, std::chrono::milliseconds l
     m_list->setHeaderLabels({QStringLiteral("Backup"), QStringLiteral("Taken"),
                              QStringLiteral("Size"), QStringLiteral("Financial Year"),
                              QStringLiteral("Companies"), QStringLiteral("Statements")});
+    m_list->header()->setStretchLastSection(false);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     connect(m_list, &QTreeWidget::itemDoubleClicked, this, &BackupWindow::restore);
     m_progress->setObjectName(QStringLiteral("prgCopy"));
     m_progress->setValue(0);
@@ -137,7 +139,8 @@ void BackupWindow::listBackups(const QString &select)
         item->setData(0, Qt::UserRole, entry.path);
         item->setText(0, QFileInfo(entry.path).fileName());
         item->setText(1, entry.taken.toString(shownTime));
-        item->setText(2, locale.formattedDataSize(entry.size));
+        item->setText(2, locale.formattedDataSize(entry.size, 1,
+                                                   QLocale::DataSizeTraditionalFormat));
         item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
         if (entry.path == select)
             m_list->setCurrentItem(item);

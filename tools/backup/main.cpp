@@ -5,6 +5,7 @@
 
 #include "backup/backupcommand.h"
 #include "core/datastore.h"
+#include "core/programlayout.h"
 #include "core/qtmessageboxes.h"
 
 #include <QApplication>
@@ -29,12 +30,22 @@ QString kelvoraProgram()
     return QDir(QCoreApplication::applicationDirPath()).filePath(name);
 }
 
+/// The store that the program opens: beside it, or, installed, in the user's data folder, which
+/// is named after the program rather than after this one.
+QString programStore()
+{
+    QCoreApplication::setApplicationName(appTitle);
+    const QString folder = programlayout::storeFolder(QCoreApplication::applicationDirPath());
+    QCoreApplication::setApplicationName(QStringLiteral("Backup"));
+    return QDir(folder).filePath(DataStore::fileName);
+}
+
 int runWindow(int argc, char *argv[], BackupCommand::Options options)
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Backup"));
     if (options.storePath.isEmpty())
-        options.storePath = QDir(QApplication::applicationDirPath()).filePath(DataStore::fileName);
+        options.storePath = programStore();
     QtMessageBoxes boxes;
     std::function<void()> onClose;
     if (options.fromKelvora) {
