@@ -5,12 +5,13 @@
 #include "reports/reportfile.h"
 
 #include <QDir>
+#include <QThread>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <deque>
 #include <future>
 #include <memory>
-#include <thread>
 
 namespace {
 
@@ -47,14 +48,16 @@ Form16AFiles::Outcome Form16AFiles::write(const QString &folder, int companyId,
         return outcome;
     }
     // Drawing a PDF takes far longer than reading and laying out its certificates, so the
-    // files are drawn on the other cores, a few at a time, and told in the order read.
+    // files are drawn by a few threads that live for the whole run, and told in the order read.
     struct Pending
     {
         Written written;
         std::future<QString> error;
     };
     std::deque<Pending> pending;
-    const std::size_t inFlight = std::max(2u, std::thread::hardware_concurrency());
+    QThreadPool drawers;
+    const std::size_t inFlight = std::max(2, QThread::idealThreadCount());
+    drawers.setMaxThreadCount(int(inFlight));
     bool going = true;
     const auto finishFirst = [&] {
         Pending first = std::move(pending.front());
@@ -88,10 +91,11 @@ Form16AFiles::Outcome Form16AFiles::write(const QString &folder, int companyId,
         written.path = QDir(folder).filePath(uniqueName(written.pan, written.name));
         auto report = std::make_shared<const Report>(
             form16adocument::build(certificates, m_heading));
-        pending.push_back(
-            {written, std::async(std::launch::async, [report, path = written.path] {
-                 return reportfile::save(*report, reportfile::Format::Pdf, path);
-             })});
+        auto drawn = std::make_shared<std::promise<QString>>();
+        pending.push_back({written, drawn->get_future()});
+        drawers.start([report, drawn, path = written.path] {
+            drawn->set_value(reportfile::save(*report, reportfile::Format::Pdf, path));
+        });
         if (pending.size() >= inFlight)
             finishFirst();
     }
