@@ -166,10 +166,11 @@ int FrmForm16Report::savePdfs(const QString &folder)
     progress.setMinimumDuration(0);
     Form16AFiles files(m_tables, heading());
     Form16AFiles::Outcome outcome;
+    int saved = 0;
     try {
         outcome = files.write(folder, m_session.curCompId, m_session.curQuarter, ids,
-                              m_session.curGroupId, [&progress](const Form16AFiles::Written &) {
-                                  progress.setValue(progress.value() + 1);
+                              m_session.curGroupId, [&](const Form16AFiles::Written &) {
+                                  progress.setValue(++saved);
                                   return !progress.wasCanceled();
                               });
     } catch (const StoreError &error) {
