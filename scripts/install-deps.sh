@@ -6,6 +6,8 @@ packages=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-base-dev-tools libqt
           sqlite3 libsqlite3-dev libxlsxwriter-dev)
 # The report tests read saved PDFs and zip-based exports back as text, names in Devanagari included.
 packages+=(poppler-utils unzip fonts-lohit-deva)
+# Form 16A in a batch draws many certificates into one PDF and splits it, a file per deductee.
+packages+=(libqpdf-dev)
 if [ "${1:-}" = "--gui" ]; then
     # Only for looking at the program on a machine without a display, and for the manual's
     # screenshots (scripts/manual-screenshots.sh).

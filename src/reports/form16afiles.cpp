@@ -2,6 +2,7 @@
 
 #include "core/namepart.h"
 #include "reports/form16aworktables.h"
+#include "reports/pdfbatch.h"
 #include "reports/reportfile.h"
 
 #include <QDir>
@@ -14,6 +15,10 @@
 #include <memory>
 
 namespace {
+
+/// Deductees drawn into one PDF before it is cut: enough to share the fonts' cost, few enough
+/// to keep the memory small and the progress steady.
+constexpr qsizetype runLength = 25;
 
 /// The letters and digits of a text, every run of other characters one underscore.
 QString plainPart(const QString &text)
@@ -47,59 +52,88 @@ Form16AFiles::Outcome Form16AFiles::write(const QString &folder, int companyId,
                             .arg(QDir::toNativeSeparators(folder));
         return outcome;
     }
-    // Drawing a PDF takes far longer than reading and laying out its certificates, so the
-    // files are drawn by a few threads that live for the whole run, and told in the order read.
-    struct Pending
+    // Putting the fonts into a PDF costs far more than drawing the pages, so the certificates
+    // are drawn a run of deductees at a time into one PDF that is then cut per deductee, by a
+    // few threads that live for the whole run. The files are written and told in the order
+    // read, here, so that nothing is written after a stop.
+    struct Drawn
     {
-        Written written;
-        std::future<QString> error;
+        std::optional<QList<QByteArray>> files;
+        QString error;
     };
-    std::deque<Pending> pending;
+    struct Run
+    {
+        QList<Written> written;
+        std::future<Drawn> drawn;
+    };
+    std::deque<Run> pending;
     QThreadPool drawers;
     const std::size_t inFlight = std::max(2, QThread::idealThreadCount());
     drawers.setMaxThreadCount(int(inFlight));
     bool going = true;
     const auto finishFirst = [&] {
-        Pending first = std::move(pending.front());
+        Run first = std::move(pending.front());
         pending.pop_front();
-        const QString error = first.error.get();
+        const Drawn drawn = first.drawn.get();
         if (!going)
             return;
-        if (!error.isEmpty()) {
-            outcome.error = error;
+        if (!drawn.files) {
+            outcome.error = drawn.error;
             going = false;
             return;
         }
-        ++outcome.written;
-        if (progress && !progress(first.written)) {
-            outcome.stopped = true;
-            going = false;
+        for (qsizetype file = 0; going && file < first.written.size(); ++file) {
+            const Written &written = first.written[file];
+            outcome.error = reportfile::writeWhole(written.path, drawn.files->at(file));
+            if (!outcome.error.isEmpty()) {
+                going = false;
+                continue;
+            }
+            ++outcome.written;
+            if (progress && !progress(written)) {
+                outcome.stopped = true;
+                going = false;
+            }
         }
     };
 
+    QList<Written> written;
+    QList<std::shared_ptr<const Report>> reports;
+    const auto draw = [&] {
+        if (reports.isEmpty())
+            return;
+        auto drawn = std::make_shared<std::promise<Drawn>>();
+        pending.push_back({written, drawn->get_future()});
+        drawers.start([reports, drawn] {
+            Drawn result;
+            result.files = pdfbatch::separatePdfs(reports, &result.error);
+            drawn->set_value(result);
+        });
+        written.clear();
+        reports.clear();
+        if (pending.size() >= inFlight)
+            finishFirst();
+    };
     Form16ACertificateReader reader(
         m_tables.certificateRows(companyId, quarter, deducteeIds, groupId));
     for (QList<Form16ACertificate> certificates = reader.nextDeductee();
          going && !certificates.isEmpty(); certificates = reader.nextDeductee()) {
         const Form16ACertificate &first = certificates.first();
-        Written written;
-        written.name = first.deducteeName;
-        written.pan = first.deducteePan;
-        written.certificates = int(certificates.size());
+        Written file;
+        file.name = first.deducteeName;
+        file.pan = first.deducteePan;
+        file.certificates = int(certificates.size());
         for (const Form16ACertificate &certificate : certificates)
-            written.total += certificate.totalTax();
-        written.path = QDir(folder).filePath(uniqueName(written.pan, written.name));
-        auto report = std::make_shared<const Report>(
-            form16adocument::build(certificates, m_heading));
-        auto drawn = std::make_shared<std::promise<QString>>();
-        pending.push_back({written, drawn->get_future()});
-        drawers.start([report, drawn, path = written.path] {
-            drawn->set_value(reportfile::save(*report, reportfile::Format::Pdf, path));
-        });
-        if (pending.size() >= inFlight)
-            finishFirst();
+            file.total += certificate.totalTax();
+        file.path = QDir(folder).filePath(uniqueName(file.pan, file.name));
+        written.append(file);
+        reports.append(std::make_shared<const Report>(
+            form16adocument::build(certificates, m_heading)));
+        if (reports.size() == runLength)
+            draw();
     }
-    // What was started is finished, even after a stop, so that no file is left half drawn.
+    if (going)
+        draw();
     while (!pending.empty())
         finishFirst();
     return outcome;

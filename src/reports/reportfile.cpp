@@ -21,15 +21,6 @@ QString failure(const QString &fileName, const QString &reason)
         .arg(QDir::toNativeSeparators(fileName), reason);
 }
 
-/// The whole file is written beside its destination and moved into place only when complete.
-QString writeWhole(const QString &fileName, const QByteArray &bytes)
-{
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return failure(fileName, file.errorString());
-    return {};
-}
-
 std::optional<QByteArray> pdfBytes(const Report &report)
 {
     QBuffer buffer;
@@ -79,6 +70,15 @@ std::optional<Format> formatForName(const QString &fileName)
     if (ending == u"pdf")
         return Format::Pdf;
     return std::nullopt;
+}
+
+QString writeWhole(const QString &fileName, const QByteArray &bytes)
+{
+    // The whole file is written beside its destination and moved into place only when complete.
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return failure(fileName, file.errorString());
+    return {};
 }
 
 QString save(const Report &report, Format format, const QString &fileName)

@@ -23,4 +23,8 @@ std::optional<Format> formatForName(const QString &fileName);
 /// the user. A failed save leaves no partial file, and an earlier file of that name as it was.
 QString save(const Report &report, Format format, const QString &fileName);
 
+/// Writes a file's whole contents as save() does: an empty text on success, otherwise the
+/// message for the user; a failure leaves an earlier file of that name as it was.
+QString writeWhole(const QString &fileName, const QByteArray &bytes);
+
 } // namespace reportfile

@@ -5,6 +5,7 @@
 #include "reports/form16adocument.h"
 #include "reports/form16aworktables.h"
 #include "reports/inwords.h"
+#include "reports/pdfbatch.h"
 #include "reports/reportfile.h"
 #include "support/testsuite.h"
 
@@ -146,19 +147,34 @@ void TestForm16A::certificateAsPdf()
     if (!canReadPdf())
         QSKIP("pdftotext (poppler-utils) is not installed");
     const Form16AWorkTables &tables = filledTables();
-    tables.fillWords(1, "Q1", {1});
-    Form16ACertificateReader reader(tables.certificateRows(1, "Q1", {1}, 1));
+    tables.fillWords(1, "Q1", {1, 2});
+    Form16ACertificateReader reader(tables.certificateRows(1, "Q1", {1, 2}, 1));
     const Form16AHeading heading{form16APeriod("Q1", "2026"),
                                  {"ACK-77", "KOLKATA", "15/07/2026", "RAVI KUMAR", "DIRECTOR",
                                   "NIL"}};
-    const Report report = form16adocument::build(reader.nextDeductee(), heading);
-    QCOMPARE(report.pageCount(), 2);
-    QVERIFY(report.text().contains("(Rupees Two Thousand Five Hundred Fifteen  only.)"));
+    // The two deductees drawn together and cut apart, as the files of a batch are.
+    QList<std::shared_ptr<const Report>> reports;
+    for (QList<Form16ACertificate> next = reader.nextDeductee(); !next.isEmpty();
+         next = reader.nextDeductee())
+        reports << std::make_shared<const Report>(form16adocument::build(next, heading));
+    QCOMPARE(reports.size(), 2);
+    QVERIFY(reports[1]->text().contains("(Rupees Two Thousand Five Hundred Fifteen  only.)"));
+    QString error;
+    const std::optional<QList<QByteArray>> files = pdfbatch::separatePdfs(reports, &error);
+    QVERIFY2(files && files->size() == 2, qPrintable(error));
 
     QTemporaryDir folder;
-    const QString pdf = folder.filePath("certificate.pdf");
-    QCOMPARE(reportfile::save(report, reportfile::Format::Pdf, pdf), QString());
-    expectInOrder(pdfText(pdf).simplified(),
+    QStringList texts;
+    for (const QByteArray &bytes : *files) {
+        const QString pdf = folder.filePath(QString::number(texts.size()) + ".pdf");
+        QCOMPARE(reportfile::writeWhole(pdf, bytes), QString());
+        texts << pdfText(pdf);
+    }
+    QCOMPARE(texts[0].count('\f'), 1);
+    QVERIFY(texts[0].contains(trickyName) && !texts[0].contains("ZUBIN"));
+    QCOMPARE(texts[1].count('\f'), 2);
+    QVERIFY(!texts[1].contains("O'Brien"));
+    expectInOrder(texts[1].simplified(),
                   {"FORM NO. 16A", "From 01/04/2026 To 30/06/2026", "ZETA TRADERS",
                    "ZUBIN MEHTA", "1 ZETA HOUSE", "ZETA TOWER", "MG ROAD", "BOWBAZAR",
                    "CALZ12345A", "AAAPZ1111Z", "ACK-77", "94C",
