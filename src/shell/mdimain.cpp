@@ -24,19 +24,6 @@
 
 namespace {
 
-/// How the user knows the screens and reports that this version does not have yet.
-struct PendingScreen
-{
-    const char *screen;
-    const char *what;
-};
-
-constexpr PendingScreen pendingScreens[] = {
-    {"FrmReport", "Printing of statements"},
-    {"frmForm16Report", "Printing of Form 16A"},
-    {"frmCertificate16A", "Certificate - Form 16 A"},
-};
-
 QString backupProgramName()
 {
 #ifdef Q_OS_WIN
@@ -282,13 +269,9 @@ void MdiMain::showGenerationLog(const QString &report)
 
 void MdiMain::showNotAvailable(const QString &screen)
 {
-    QString what = screen;
-    for (const PendingScreen &pending : pendingScreens) {
-        if (screen == QLatin1String(pending.screen))
-            what = QLatin1String(pending.what);
-    }
-    m_boxes.show({QStringLiteral("%1 is not available yet in this version of Kelvora.").arg(what),
-                  appTitle, MessageIcon::Information});
+    m_boxes.show(
+        {QStringLiteral("%1 is not available yet in this version of Kelvora.").arg(screen),
+         appTitle, MessageIcon::Information});
 }
 
 void MdiMain::exitProgram()
@@ -326,7 +309,11 @@ void MdiMain::launchBackup()
                       appTitle, MessageIcon::Critical});
         return;
     }
-    if (!QProcess::startDetached(program, {}, m_folder)) {
+    // Backup works on this program's store once the program has let go of it, and starts the
+    // program again when its window closes.
+    if (!QProcess::startDetached(program,
+                                 {QStringLiteral("--from-kelvora"), m_session.store.path()},
+                                 m_folder)) {
         m_boxes.show({QStringLiteral("The backup program could not be started:\n%1\n\n"
                                      "Kelvora goes on running; no backup was made.")
                           .arg(QDir::toNativeSeparators(program)),
