@@ -1,18 +1,11 @@
 #pragma once
 
 #include "reports/companydetails.h"
-
-#include <QWidget>
-
-class MessageBoxes;
-class QCheckBox;
-class QComboBox;
-class QListWidget;
-class QPushButton;
+#include "reports/picklistscreen.h"
 
 /// Chooses the companies of a group whose details are printed, one after another or each on
 /// a page of its own.
-class FrmGroupWiseCompanyDetails : public QWidget
+class FrmGroupWiseCompanyDetails : public PickListScreen
 {
     Q_OBJECT
 
@@ -22,17 +15,10 @@ public:
 
     /// The OK button: the report of the chosen companies, shown beside this screen, which
     /// then closes; a message and nothing else when there is nothing to show.
-    void showReport();
+    void showReport() override;
 
 private:
-    void groupChosen();
-    void toggleSelection();
-    void fail();
+    QList<PickListRow> rowsOf(const QString &group) const override;
 
     CompanyDetails m_details;
-    MessageBoxes &m_boxes;
-    QComboBox *m_group;
-    QListWidget *m_companies;
-    QCheckBox *m_pageBreak;
-    QPushButton *m_selectAll;
 };
