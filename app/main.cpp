@@ -1,4 +1,5 @@
 #include "core/datastore.h"
+#include "core/programicon.h"
 #include "core/programlayout.h"
 #include "core/qtmessageboxes.h"
 #include "core/session.h"
@@ -10,16 +11,12 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QIcon>
 
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(appTitle);
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256})
-        icon.addFile(QStringLiteral(":/icons/kelvora-%1.png").arg(size));
-    QApplication::setWindowIcon(icon);
+    QApplication::setWindowIcon(programIcon());
     const QString programFolder = QApplication::applicationDirPath();
     QtMessageBoxes boxes;
 

@@ -198,7 +198,7 @@ void BackupWindow::restore()
         QStringLiteral("Replace the data store with the backup taken %1?\n\n"
                        "The data store as it is now is first kept as a backup in\n%2")
             .arg(item->text(1), shown(folder)),
-        title, MessageIcon::Question, MessageButtons::YesNo};
+        title, MessageIcon::Question, MessageButtons::YesNo, true};
     if (m_boxes.show(question) != Answer::Yes)
         return;
 

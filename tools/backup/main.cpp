@@ -5,6 +5,7 @@
 
 #include "backup/backupcommand.h"
 #include "core/datastore.h"
+#include "core/programicon.h"
 #include "core/programlayout.h"
 #include "core/qtmessageboxes.h"
 
@@ -44,6 +45,7 @@ int runWindow(int argc, char *argv[], BackupCommand::Options options)
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Backup"));
+    QApplication::setWindowIcon(programIcon());
     if (options.storePath.isEmpty())
         options.storePath = programStore();
     QtMessageBoxes boxes;
