@@ -23,6 +23,15 @@ constexpr Bounds bounds[] = {
 
 } // namespace
 
+bool isCode(const QString &code)
+{
+    for (const Bounds &b : bounds) {
+        if (code == QLatin1String(b.code))
+            return true;
+    }
+    return false;
+}
+
 QStringList names()
 {
     return {QStringLiteral("First Quarter"), QStringLiteral("Second Quarter"),

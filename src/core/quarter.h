@@ -20,6 +20,9 @@ struct Period
     bool operator==(const Period &) const = default;
 };
 
+/// Whether a text is a quarter's code as the front ends take it: "Q1" to "Q4", exactly.
+bool isCode(const QString &code);
+
 /// The texts of the quarter list, in the order of their index.
 QStringList names();
 

@@ -2,6 +2,8 @@
 
 #include "core/datastore.h"
 #include "core/formtraits.h"
+#include "core/namedcompany.h"
+#include "core/quarter.h"
 #include "core/session.h"
 #include "core/startup.h"
 #include "core/storeaccess.h"
@@ -12,57 +14,11 @@
 
 #include <QCommandLineParser>
 #include <QDir>
-#include <QSqlQuery>
 #include <QTextStream>
-
-#include <algorithm>
 
 namespace {
 
 const QString program = QStringLiteral("kelvora-certificates: ");
-const QStringList quarters = {"Q1", "Q2", "Q3", "Q4"};
-
-struct Company
-{
-    int compId = 0;
-    int groupId = 0;
-};
-
-bool isWholeNumber(const QString &text)
-{
-    return !text.isEmpty()
-           && std::all_of(text.begin(), text.end(), [](QChar ch) { return ch.isDigit(); });
-}
-
-/// The company named by its id or its TAN; none, with the reason, unless it names exactly one.
-std::optional<Company> findCompany(const Session &session, const QString &company,
-                                   QString &error)
-{
-    const bool byId = isWholeNumber(company);
-    QSqlQuery query = session.store.exec(
-        QStringLiteral("SELECT CompID, GroupID FROM mstCompany WHERE AsstID = ? AND %1 = ? "
-                       "ORDER BY CompID")
-            .arg(byId ? QStringLiteral("CompID") : QStringLiteral("TanNO")),
-        {session.asstId, byId ? QVariant(company.toLongLong()) : QVariant(company)});
-    QList<Company> found;
-    while (query.next())
-        found.append({query.value(0).toInt(), query.value(1).toInt()});
-    if (found.isEmpty()) {
-        error = byId ? QStringLiteral("there is no company with the id %1").arg(company)
-                     : QStringLiteral("there is no company with the TAN %1").arg(company);
-        return std::nullopt;
-    }
-    // Placeholders such as TANAPPLIED can stand for several deductors.
-    if (found.size() > 1) {
-        QStringList ids;
-        for (const Company &each : found)
-            ids << QString::number(each.compId);
-        error = QStringLiteral("the TAN %1 belongs to the companies %2; give the company's id")
-                    .arg(company, ids.join(QStringLiteral(", ")));
-        return std::nullopt;
-    }
-    return found.first();
-}
 
 } // namespace
 
@@ -110,7 +66,7 @@ std::optional<CertificateBatch::Options> CertificateBatch::parse(const QStringLi
         error = QStringLiteral("--store is required");
     else if (!form || !form->challanHasSection())
         error = QStringLiteral("--form must be 26Q, 27Q or 27EQ");
-    else if (!quarters.contains(result.quarter))
+    else if (!quarter::isCode(result.quarter))
         error = QStringLiteral("--quarter must be Q1, Q2, Q3 or Q4");
     else if (result.company.isEmpty())
         error = QStringLiteral("--company is required");
@@ -159,23 +115,28 @@ int CertificateBatch::run(const Options &options)
         Session session(*opened.store);
         startup::prepareStore(session);
         QString error;
-        const std::optional<Company> company = findCompany(session, options.company, error);
-        if (!company)
+        const std::optional<int> compId =
+            namedCompany(store, session.asstId, options.company, error);
+        if (!compId)
             return fail(NothingToCertify, error);
+        const int groupId =
+            store.scalar(QStringLiteral("SELECT GroupID FROM mstCompany WHERE CompID = ?"),
+                         {*compId})
+                .toInt();
 
         const Form16AWorkTables tables(store);
         tables.prepare();
         tables.fill(*form);
         QList<int> ids;
         for (const Form16AWorkTables::Deductee &deductee :
-             tables.deductees(company->compId, options.quarter, options.deductee))
+             tables.deductees(*compId, options.quarter, options.deductee))
             ids << deductee.id;
-        tables.fillWords(company->compId, options.quarter, ids);
+        tables.fillWords(*compId, options.quarter, ids);
         Form16AHeading heading{form16APeriod(options.quarter, session.asstFaYearStart),
                                options.inputs, form->collectsTax};
         Form16AFiles files(tables, heading);
         const Form16AFiles::Outcome outcome = files.write(
-            options.output, company->compId, options.quarter, ids, company->groupId,
+            options.output, *compId, options.quarter, ids, groupId,
             [this](const Form16AFiles::Written &written) {
                 m_out << QDir::toNativeSeparators(written.path) << '\t' << written.certificates
                       << (written.certificates == 1 ? " certificate\t" : " certificates\t")

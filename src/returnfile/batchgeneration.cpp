@@ -2,6 +2,8 @@
 
 #include "core/datastore.h"
 #include "core/messageboxes.h"
+#include "core/namedcompany.h"
+#include "core/quarter.h"
 #include "core/records.h"
 #include "core/startup.h"
 #include "core/storeaccess.h"
@@ -22,50 +24,12 @@ namespace {
 // One data store holds one assessment period, always the first row of mstAssessment.
 constexpr int asstId = 1;
 
-const QStringList quarters = {"Q1", "Q2", "Q3", "Q4"};
-
 /// The command line is the confirmation, and failures come back in the result: nothing to show.
 class QuietBoxes : public MessageBoxes
 {
 public:
     Answer show(const Message &) override { return Answer::Ok; }
 };
-
-bool isWholeNumber(const QString &text)
-{
-    if (text.isEmpty())
-        return false;
-    for (const QChar ch : text) {
-        if (ch < u'0' || ch > u'9')
-            return false;
-    }
-    return true;
-}
-
-/// The company named by its id or its TAN; none, with the reason, when it names no single one.
-std::optional<int> findCompany(const DataStore &store, const QString &company, QString &error)
-{
-    const bool byId = isWholeNumber(company);
-    QSqlQuery query = store.exec(
-        QStringLiteral("SELECT CompID FROM mstCompany WHERE AsstID = ? AND %1 = ? ORDER BY CompID")
-            .arg(byId ? QStringLiteral("CompID") : QStringLiteral("TanNO")),
-        {asstId, byId ? QVariant(company.toLongLong()) : QVariant(company)});
-    QStringList ids;
-    while (query.next())
-        ids << query.value(0).toString();
-    if (ids.isEmpty()) {
-        error = byId ? QStringLiteral("there is no company with the id %1").arg(company)
-                     : QStringLiteral("there is no company with the TAN %1").arg(company);
-        return std::nullopt;
-    }
-    // Placeholders such as TANAPPLIED can stand for several deductors.
-    if (ids.size() > 1) {
-        error = QStringLiteral("the TAN %1 belongs to the companies %2; give the company's id")
-                    .arg(company, ids.join(QStringLiteral(", ")));
-        return std::nullopt;
-    }
-    return ids.first().toInt();
-}
 
 } // namespace
 
@@ -106,7 +70,7 @@ std::optional<BatchGeneration::Options> BatchGeneration::parse(const QStringList
         error = QStringLiteral("--store is required");
     else if (!findForm(options.formType))
         error = QStringLiteral("--form must be 24Q, 26Q, 27Q or 27EQ");
-    else if (!quarters.contains(options.quarter))
+    else if (!quarter::isCode(options.quarter))
         error = QStringLiteral("--quarter must be Q1, Q2, Q3 or Q4");
     else if (options.all == !options.company.isEmpty())
         error = QStringLiteral("give either --company or --all");
@@ -163,7 +127,7 @@ int BatchGeneration::run(const Options &options, const QDateTime &now)
                                {asstId, options.quarter});
         } else {
             QString error;
-            const std::optional<int> compId = findCompany(store, options.company, error);
+            const std::optional<int> compId = namedCompany(store, asstId, options.company, error);
             if (!compId) {
                 m_err << "kelvora-returns: " << error << '\n';
                 return UsageError;
