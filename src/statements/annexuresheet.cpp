@@ -195,16 +195,12 @@ bool AnnexureSheet::dateChanged()
 {
     const Session &session = m_statement.session();
     const ChallanEntry *chosen = challan();
-    const auto failure = fieldrules::checkDepositDate(
-        m_entry.date, chosen ? chosen->date : QDate(),
-        fieldrules::sessionDate(session.quarterFromDt),
-        fieldrules::sessionDate(session.quarterToDt), QStringLiteral("dtp105"));
-    if (!failure)
-        return true;
-    m_statement.boxes().show(failure->failure.message);
-    m_entry.date = failure->correctedDate;
-    m_statement.requestFocus(failure->failure.field);
-    return false;
+    return m_statement.acceptDate(
+        fieldrules::checkDepositDate(m_entry.date, chosen ? chosen->date : QDate(),
+                                     fieldrules::sessionDate(session.quarterFromDt),
+                                     fieldrules::sessionDate(session.quarterToDt),
+                                     QStringLiteral("dtp105")),
+        m_entry.date);
 }
 
 std::optional<FieldFailure> AnnexureSheet::partyFailure() const

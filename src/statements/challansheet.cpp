@@ -86,14 +86,10 @@ bool ChallanSheet::amountLeft(int index)
 bool ChallanSheet::dateChanged()
 {
     const Session &session = m_statement.session();
-    const auto failure = fieldrules::checkNotBeforeQuarter(
-        m_entry.date, fieldrules::sessionDate(session.quarterFromDt), QStringLiteral("dtp119"));
-    if (!failure)
-        return true;
-    m_statement.boxes().show(failure->failure.message);
-    m_entry.date = failure->correctedDate;
-    m_statement.requestFocus(failure->failure.field);
-    return false;
+    const QDate quarterStart = fieldrules::sessionDate(session.quarterFromDt);
+    return m_statement.acceptDate(
+        fieldrules::checkNotBeforeQuarter(m_entry.date, quarterStart, QStringLiteral("dtp119")),
+        m_entry.date);
 }
 
 void ChallanSheet::sectionChanged()

@@ -185,6 +185,17 @@ int StatementSheet::storedAnnexureRows() const
     return totalDeductee(m_session.store, m_form, basicInfoId());
 }
 
+bool StatementSheet::acceptDate(const std::optional<fieldrules::DateFailure> &failure,
+                                QDate &date)
+{
+    if (!failure)
+        return true;
+    m_boxes.show(failure->failure.message);
+    date = failure->correctedDate;
+    requestFocus(failure->failure.field);
+    return false;
+}
+
 QString StatementSheet::takeFocus()
 {
     return std::exchange(m_focus, QString());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/clsoperation.h"
+#include "core/fieldrules.h"
 #include "statements/basicinfo.h"
 #include "statements/statementrecord.h"
 
@@ -88,6 +89,9 @@ public:
     /// The objectName of the field that takes the focus after the last action, once.
     QString takeFocus();
     void requestFocus(const QString &field) { m_focus = field; }
+    /// A date that its check refused: the message, the date set back as the check says and the
+    /// focus on its field. True when the check passed.
+    bool acceptDate(const std::optional<fieldrules::DateFailure> &failure, QDate &date);
     /// Shows a store failure with its description.
     void reportStoreError(const StoreError &error) const;
 
