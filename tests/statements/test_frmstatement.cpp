@@ -1,7 +1,8 @@
+#include "screenchild.h"
 #include "statementfixture.h"
-#include "returnfile/batchgeneration.h"
 #include "reports/report.h"
 #include "reports/reportpreview.h"
+#include "returnfile/batchgeneration.h"
 #include "returnfile/generationflow.h"
 #include "statements/challansheet.h"
 #include "statements/frmstatement.h"
@@ -14,15 +15,6 @@
 #include <QtTest>
 
 namespace {
-
-template<typename T = QWidget>
-T *child(QWidget &screen, const QString &name)
-{
-    T *found = screen.findChild<T *>(name);
-    if (!found)
-        qFatal("no %s on the screen", qPrintable(name));
-    return found;
-}
 
 void typeAndEnter(QWidget &screen, const QString &text)
 {

@@ -1,4 +1,5 @@
 #include "salaryfixture.h"
+#include "screenchild.h"
 #include "statements/salarypanel.h"
 #include "support/testsuite.h"
 
@@ -10,15 +11,6 @@
 #include <QtTest>
 
 namespace {
-
-template<typename T = QWidget>
-T *child(QWidget &panel, const QString &name)
-{
-    T *found = panel.findChild<T *>(name);
-    if (!found)
-        qFatal("no %s on the panel", qPrintable(name));
-    return found;
-}
 
 QString text(QWidget &panel, const QString &name)
 {
