@@ -1,10 +1,9 @@
 #include "core/fieldchecks.h"
 
 #include "core/fieldrules.h"
-#include "core/session.h"
+#include "core/messageboxes.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 
 namespace fieldchecks {
@@ -20,17 +19,6 @@ bool reportBlank(MessageBoxes &boxes, QWidget *field, const QString &text,
         return false;
     report(boxes, *failure, field);
     return true;
-}
-
-bool reportDate(MessageBoxes &boxes, QDateEdit *date,
-                const std::optional<fieldrules::DateFailure> &failure)
-{
-    if (!failure)
-        return true;
-    boxes.show(failure->failure.message);
-    date->setDate(failure->correctedDate);
-    focusIfPossible(date);
-    return false;
 }
 
 } // namespace
@@ -64,24 +52,6 @@ bool checkMaxDigits(MessageBoxes &boxes, QLineEdit *edit, int maximum)
                                                         edit->objectName()))
         report(boxes, *warning, edit);
     return true;
-}
-
-bool checkNotBeforeQuarter(MessageBoxes &boxes, QDateEdit *date, const Session &session)
-{
-    return reportDate(boxes, date,
-                      fieldrules::checkNotBeforeQuarter(
-                          date->date(), fieldrules::sessionDate(session.quarterFromDt),
-                          date->objectName()));
-}
-
-bool checkDepositDate(MessageBoxes &boxes, QDateEdit *date, const QDateEdit *challanDate,
-                      const Session &session)
-{
-    return reportDate(boxes, date,
-                      fieldrules::checkDepositDate(
-                          date->date(), challanDate->date(),
-                          fieldrules::sessionDate(session.quarterFromDt),
-                          fieldrules::sessionDate(session.quarterToDt), date->objectName()));
 }
 
 } // namespace fieldchecks

@@ -4,14 +4,12 @@
 
 class MessageBoxes;
 class QComboBox;
-class QDateEdit;
 class QLineEdit;
 class QWidget;
 struct FieldFailure;
-struct Session;
 
-// The field checks of the screens on their widgets: each runs the rule, shows its box, puts the
-// focus on the field and, for dates, sets the date back to the bound that was crossed.
+// The field checks of the screens on their widgets: each runs the rule, shows its box and puts
+// the focus on the field.
 namespace fieldchecks {
 
 // Gives the widget the focus when it can take it (enabled and shown).
@@ -27,13 +25,5 @@ bool isBlank(MessageBoxes &boxes, QComboBox *combo, const QString &message = {})
 // Warns when the text without its points is longer than the maximum; always true, so that the
 // caller goes on.
 bool checkMaxDigits(MessageBoxes &boxes, QLineEdit *edit, int maximum);
-
-// False, after the box and with the date set to the quarter's first day, for a date before it.
-bool checkNotBeforeQuarter(MessageBoxes &boxes, QDateEdit *date, const Session &session);
-
-// False, after the box and with the date set back, for a date after the challan date or outside
-// the session's quarter.
-bool checkDepositDate(MessageBoxes &boxes, QDateEdit *date, const QDateEdit *challanDate,
-                      const Session &session);
 
 } // namespace fieldchecks

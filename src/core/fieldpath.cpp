@@ -73,12 +73,14 @@ bool FieldPath::eventFilter(QObject *watched, QEvent *event)
     if (screenroutines::isEnterKey(event)) {
         if (auto *combo = qobject_cast<QComboBox *>(field); combo && combo->view()->isVisible())
             return false; // Enter picks from the open list first
-        if (leave(field)) {
-            if (const auto action = m_actions.constFind(field); action != m_actions.constEnd())
-                (*action)();
-            else
-                moveOn(field);
+        if (!leave(field)) {
+            enter(field); // what was refused is selected, to be typed over
+            return true;
         }
+        if (const auto action = m_actions.constFind(field); action != m_actions.constEnd())
+            (*action)();
+        else
+            moveOn(field);
         return true;
     }
     if (event->type() == QEvent::FocusOut && watched == field && !m_quiet && !m_checking) {

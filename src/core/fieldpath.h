@@ -12,7 +12,8 @@ class QWidget;
  * The way entry moves through the fields of a screen from the keyboard: Enter leaves a field
  * and goes on to the next one of the path that can take the focus, or runs the field's action;
  * leaving a field (by Enter, Tab or the mouse) runs the screen's check of it, and a refusal keeps
- * the focus there. The screen names the path and the jumps that differ from it.
+ * the focus there with the field's text selected. The screen names the path and the jumps that
+ * differ from it.
  */
 class FieldPath : public QObject
 {

@@ -1,5 +1,7 @@
 #include "core/fieldrules.h"
 
+#include <QRegularExpression>
+
 namespace fieldrules {
 
 namespace {
@@ -194,6 +196,30 @@ std::optional<FieldFailure> checkMaxDigits(const QString &text, int maximum,
     return FieldFailure{{QStringLiteral("Maximum Len allowed = ") + QString::number(maximum),
                          appTitle, MessageIcon::Critical, MessageButtons::Ok},
                         field};
+}
+
+QDate typedDate(const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    static const QRegularExpression separated(
+        QStringLiteral("^(\\d{1,2})[/.-](\\d{1,2})[/.-](\\d{4}|\\d{2})$"));
+    static const QRegularExpression digitsOnly(QStringLiteral("^(\\d{2})(\\d{2})(\\d{4})$"));
+    QRegularExpressionMatch parts = separated.match(trimmed);
+    if (!parts.hasMatch())
+        parts = digitsOnly.match(trimmed);
+    if (!parts.hasMatch())
+        return {};
+    int year = parts.captured(3).toInt();
+    if (parts.captured(3).size() == 2)
+        year += 2000;
+    return QDate(year, parts.captured(2).toInt(), parts.captured(1).toInt());
+}
+
+std::optional<DateFailure> checkDateGiven(QDate date, const QString &field)
+{
+    if (date.isValid())
+        return std::nullopt;
+    return dateFailure(enterDateText, QDate(), field);
 }
 
 std::optional<DateFailure> checkNotBeforeQuarter(QDate date, QDate quarterFrom,

@@ -82,6 +82,18 @@ struct DateFailure
     bool operator==(const DateFailure &) const = default;
 };
 
+/// The refusal of a date box left empty or holding what is not a date.
+inline const QString enterDateText = QStringLiteral("Please enter a valid date as dd/mm/yyyy");
+
+/// A date as typed into a date box: day, month and year apart by "/", "-" or "." (one or two
+/// digits for the day and month, four for the year, or two for a year of this century), or the
+/// eight digits ddmmyyyy. An invalid date for anything else, an empty text included.
+QDate typedDate(const QString &text);
+
+/// Refuses a date that is not one (an empty or mistyped box); the box keeps what was typed, so
+/// the corrected date is invalid.
+std::optional<DateFailure> checkDateGiven(QDate date, const QString &field);
+
 /// Refuses a date before the first day of the quarter; the day itself is accepted. In this and
 /// the next check a bound that is not a valid date (no quarter chosen) is not checked.
 std::optional<DateFailure> checkNotBeforeQuarter(QDate date, QDate quarterFrom,

@@ -1,6 +1,7 @@
 #include "masters/employeemaster.h"
 
 #include "core/datastore.h"
+#include "core/fieldrules.h"
 #include "core/records.h"
 #include "core/session.h"
 
@@ -53,12 +54,22 @@ std::optional<FieldFailure> EmployeeMaster::checkOwnFields() const
 {
     if (m_fields.category < 0)
         return FieldFailure{{noCategoryText, noCategoryTitle}, categoryField};
+    if (auto failure = dateFailure(fromDateField))
+        return failure;
+    return dateFailure(toDateField);
+}
+
+std::optional<FieldFailure> EmployeeMaster::dateFailure(const QString &field) const
+{
+    const QDate date = field == fromDateField ? m_fields.fromDate : m_fields.toDate;
+    if (const auto failure = fieldrules::checkDateGiven(date, field))
+        return failure->failure;
     return std::nullopt;
 }
 
 void EmployeeMaster::clearOwnFields()
 {
-    // The dates are date controls, which clearing leaves as they are.
+    // The dates stay, as date controls always have, for the next employee of the same period.
     m_fields.designation.clear();
     m_fields.category = -1;
 }

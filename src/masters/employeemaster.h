@@ -27,6 +27,8 @@ public:
     static inline const QString idField = QStringLiteral("txtEmpID");
     static inline const QString nameField = QStringLiteral("txtEmpName");
     static inline const QString categoryField = QStringLiteral("cmbCat");
+    static inline const QString fromDateField = QStringLiteral("dtpFromDate");
+    static inline const QString toDateField = QStringLiteral("DtpToDate");
     static inline const QString blankNameText = QStringLiteral("Please Enter Employee Name");
     static inline const QString noCategoryText = QStringLiteral("Please enter employee category.");
     static inline const QString noCategoryTitle = QStringLiteral("Alert Message");
@@ -35,6 +37,9 @@ public:
 
     EmployeeFields &fields() override { return m_fields; }
     const EmployeeFields &fields() const override { return m_fields; }
+
+    /// The refusal of the From or To Date box (by its name) when it holds no date.
+    std::optional<FieldFailure> dateFailure(const QString &field) const;
 
     /// UpdateEmpInfo: the employee's name, designation, dates and PAN into his Form 24Q rows.
     void updateEmpInfo();

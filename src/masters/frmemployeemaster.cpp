@@ -1,22 +1,19 @@
 #include "masters/frmemployeemaster.h"
 
+#include "core/datebox.h"
 #include "core/messageboxes.h"
 #include "core/storeerror.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 
 namespace {
 
-QDateEdit *dateEdit(const QString &name, QWidget *parent)
+DateBox *dateBox(const QString &name, QWidget *parent)
 {
-    auto *date = new QDateEdit(parent);
-    date->setObjectName(name);
-    date->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
-    date->setCalendarPopup(true);
+    auto *date = new DateBox(name, parent);
     date->setDate(QDate::currentDate()); // until Add New sets the year's dates
     return date;
 }
@@ -27,8 +24,8 @@ FrmEmployeeMaster::FrmEmployeeMaster(Session &session, MessageBoxes &boxes, QWid
     : PartyMasterForm(m_employees, boxes, parent),
       m_employees(session, boxes),
       m_designation(new QLineEdit(this)),
-      m_fromDate(dateEdit(QStringLiteral("dtpFromDate"), this)),
-      m_toDate(dateEdit(QStringLiteral("DtpToDate"), this)),
+      m_fromDate(dateBox(EmployeeMaster::fromDateField, this)),
+      m_toDate(dateBox(EmployeeMaster::toDateField, this)),
       m_category(new QComboBox(this))
 {
     setObjectName(QStringLiteral("frmEmployeeMaster"));
@@ -86,9 +83,17 @@ void FrmEmployeeMaster::showOwnFields()
 {
     const EmployeeFields &fields = m_employees.fields();
     setText(m_designation, fields.designation);
-    if (fields.fromDate.isValid())
-        m_fromDate->setDate(fields.fromDate);
-    if (fields.toDate.isValid())
-        m_toDate->setDate(fields.toDate);
+    m_fromDate->setDate(fields.fromDate);
+    m_toDate->setDate(fields.toDate);
     m_category->setCurrentIndex(fields.category);
+}
+
+bool FrmEmployeeMaster::leaveOwnField(QWidget *field)
+{
+    if (field != m_fromDate && field != m_toDate)
+        return true;
+    const auto failure = m_employees.dateFailure(field->objectName());
+    if (failure)
+        m_boxes.show(failure->message);
+    return !failure;
 }

@@ -3,7 +3,7 @@
 #include "masters/employeemaster.h"
 #include "masters/partymasterform.h"
 
-class QDateEdit;
+class DateBox;
 struct Session;
 
 // "Employee Master": the employees of a group, for Form 24Q.
@@ -21,11 +21,12 @@ public:
 protected:
     void readOwnFields() override;
     void showOwnFields() override;
+    bool leaveOwnField(QWidget *field) override;
 
 private:
     EmployeeMaster m_employees;
     QLineEdit *m_designation;
-    QDateEdit *m_fromDate;
-    QDateEdit *m_toDate;
+    DateBox *m_fromDate;
+    DateBox *m_toDate;
     QComboBox *m_category;
 };

@@ -113,6 +113,8 @@ bool PartyFormKeyboard::eventFilter(QObject *watched, QEvent *event)
                 m_movingOn = true;
                 moveToNextField(field);
                 m_movingOn = false;
+            } else if (QLineEdit *edit = lineEditOf(field)) {
+                edit->selectAll(); // what was refused is typed over
             }
             return true;
         }

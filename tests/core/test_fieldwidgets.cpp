@@ -1,17 +1,15 @@
-#include "core/datastore.h"
+#include "core/datebox.h"
 #include "core/fieldchecks.h"
+#include "core/fieldpath.h"
 #include "core/keyfilters.h"
-#include "core/session.h"
 #include "support/scriptedmessageboxes.h"
 #include "support/testsuite.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QVBoxLayout>
 
 using keyfilters::Rule;
@@ -29,12 +27,12 @@ private slots:
         m_window = std::make_unique<QWidget>();
         auto *layout = new QVBoxLayout(m_window.get());
         m_edit = new QLineEdit;
-        m_date = new QDateEdit(QDate(2024, 11, 7));
-        m_challanDate = new QDateEdit(QDate(2024, 11, 7));
+        m_date = new DateBox(QStringLiteral("dtp105"));
         layout->addWidget(m_edit);
         layout->addWidget(m_date);
-        layout->addWidget(m_challanDate);
         m_window->show();
+        QApplication::setActiveWindow(m_window.get());
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         m_boxes.shown.clear();
     }
 
@@ -108,28 +106,70 @@ private slots:
         QCOMPARE(m_boxes.shown, QList<Message>(boxes, onlyNumerics));
     }
 
-    // A refused date is set back to the bound it crossed and takes the focus.
-    void dates()
+    // A date typed over the box, however the box was entered, is exactly the date typed; what
+    // is not a date stays as typed for the screen's check to refuse.
+    void typedDates_data()
     {
-        QTemporaryDir dir;
-        DataStore store(dir.filePath(DataStore::fileName), DataStore::OpenMode::CreateFile);
-        Session session(store);
-        session.quarterFromDt = QStringLiteral("01/10/2024");
-        session.quarterToDt = QStringLiteral("31/12/2024");
-        m_challanDate->setFocus();
-        QVERIFY(fieldchecks::checkDepositDate(m_boxes, m_date, m_challanDate, session));
-        QCOMPARE(m_window->focusWidget(), m_challanDate);
+        testsuite::columns<QString, QString, QString, QDate>("arrival", "typed", "text", "date");
+        const QList<std::tuple<const char *, const char *, const char *, QDate>> rows = {
+            {"enter", "07/08/2026", "07/08/2026", QDate(2026, 8, 7)},
+            {"tab", "15/07/2026", "15/07/2026", QDate(2026, 7, 15)},
+            {"click on the day", "15/07/2026", "15/07/2026", QDate(2026, 7, 15)},
+            {"click on the month", "30/07/2026", "30/07/2026", QDate(2026, 7, 30)},
+            {"click on the year", "01/01/2027", "01/01/2027", QDate(2027, 1, 1)},
+            {"enter", "01042026", "01042026", QDate(2026, 4, 1)},
+            {"enter", "1/4/2026", "1/4/2026", QDate(2026, 4, 1)},
+            {"enter", "31-03-2027", "31-03-2027", QDate(2027, 3, 31)},
+            {"enter", "31.03.27", "31.03.27", QDate(2027, 3, 31)},
+            {"enter", "3l/O3/2O27", "3/3/227", QDate()},
+            {"enter", "31/02/2027", "31/02/2027", QDate()},
+            {"enter", "310/3/2027", "310/3/2027", QDate()},
+            {"enter", "", "", QDate()},
+        };
+        for (const auto &[arrival, typed, text, date] : rows)
+            QTest::addRow("%s %s", arrival, typed) << arrival << typed << text << date;
+    }
+    void typedDates()
+    {
+        QFETCH(QString, arrival);
+        QFETCH(QString, typed);
+        m_date->setDate(QDate(2026, 11, 24));
+        if (arrival == u"enter") {
+            FieldPath::enter(m_date);
+        } else if (arrival == u"tab") {
+            m_edit->setFocus();
+            QTest::keyClick(m_edit, Qt::Key_Tab);
+        } else {
+            // The caret's place in the shown date: the day, the month or the year.
+            const int position = arrival.endsWith(u"day") ? 1 : arrival.endsWith(u"month") ? 4
+                                                                                          : 8;
+            const int x = m_date->contentsRect().left() + 3
+                          + m_date->fontMetrics().horizontalAdvance(m_date->text().left(position));
+            QTest::mouseClick(m_date, Qt::LeftButton, {}, QPoint(x, m_date->height() / 2));
+        }
+        QCoreApplication::processEvents(); // the whole date is selected once the click is done
+        QCOMPARE(QApplication::focusWidget(), m_date);
+        if (typed.isEmpty())
+            QTest::keyClick(m_date, Qt::Key_Delete);
+        QTest::keyClicks(m_date, typed);
+        QTEST(m_date->text(), "text");
+        QTEST(m_date->date(), "date");
+        QVERIFY(m_boxes.shown.isEmpty());
+    }
 
-        m_date->setDate(QDate(2024, 11, 8));
-        QVERIFY(!fieldchecks::checkDepositDate(m_boxes, m_date, m_challanDate, session));
-        QCOMPARE(m_date->date(), QDate(2024, 11, 7));
-        QCOMPARE(m_window->focusWidget(), m_date);
-        m_date->setDate(QDate(2024, 9, 30));
-        QVERIFY(!fieldchecks::checkNotBeforeQuarter(m_boxes, m_date, session));
-        QCOMPARE(m_date->date(), QDate(2024, 10, 1));
-        QCOMPARE(m_boxes.texts(),
-                 QStringList({"Date should not be greater than the Challan Date",
-                              "Date should not be less than the Quarter Start Date"}));
+    // Alt+Down drops the calendar down on the box's date; Enter there takes the date picked.
+    void calendar()
+    {
+        m_date->setDate(QDate(2026, 6, 30));
+        FieldPath::enter(m_date);
+        QTest::keyClick(m_date, Qt::Key_Down, Qt::AltModifier);
+        QWidget *calendar = QApplication::activePopupWidget();
+        QVERIFY(calendar);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QVERIFY(!QApplication::activePopupWidget());
+        QCOMPARE(m_date->text(), "01/07/2026");
+        QCOMPARE(QApplication::focusWidget(), m_date);
     }
 
     void blankAndMaxDigits()
@@ -163,8 +203,7 @@ private slots:
 private:
     std::unique_ptr<QWidget> m_window;
     QLineEdit *m_edit = nullptr;
-    QDateEdit *m_date = nullptr;
-    QDateEdit *m_challanDate = nullptr;
+    DateBox *m_date = nullptr;
     ScriptedMessageBoxes m_boxes;
 };
 
