@@ -1,5 +1,6 @@
 #include "statements/annexurepanel.h"
 
+#include "core/datebox.h"
 #include "core/fieldpath.h"
 #include "core/formtraits.h"
 #include "core/keyfilters.h"
@@ -14,7 +15,6 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -47,16 +47,6 @@ const char *const blockCaptions[] = {"Section", "BSR Code", "Challan No", "Trans
                                      "Cheque No.", "Challan Total", "Tax Deposited"};
 
 const char *const flagCodes[] = {"A", "B", " "};
-
-QDateEdit *newDate(const QString &name, QWidget *parent)
-{
-    auto *date = new QDateEdit(parent);
-    date->setObjectName(name);
-    date->setCalendarPopup(true);
-    date->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
-    date->setDate(QDate::currentDate());
-    return date;
-}
 
 } // namespace
 
@@ -125,9 +115,10 @@ void AnnexurePanel::buildBoxes(MessageBoxes &boxes)
     m_grossingUp->setObjectName(QStringLiteral("cmbGrossUpIndicator"));
     m_grossingUp->addItems({QStringLiteral("Yes"), QStringLiteral("No"), QStringLiteral("Na")});
 
-    m_date = newDate(QStringLiteral("dtp105"), this);
-    m_fromDate = newDate(QStringLiteral("dtpFromDate"), this);
-    m_toDate = newDate(QStringLiteral("DtpToDate"), this);
+    m_date = new DateBox(QStringLiteral("dtp105"), this);
+    // The employee's period comes from the master and is only shown here.
+    m_fromDate = new DateBox(QStringLiteral("dtpFromDate"), this);
+    m_toDate = new DateBox(QStringLiteral("DtpToDate"), this);
     m_fromDate->setEnabled(false);
     m_toDate->setEnabled(false);
 
@@ -147,8 +138,6 @@ void AnnexurePanel::buildBoxes(MessageBoxes &boxes)
         line->setFocusPolicy(Qt::NoFocus);
         m_challanBlock.insert(line->objectName(), line);
     }
-    auto *challanDate = newDate(QStringLiteral("DTP"), this);
-    challanDate->setVisible(false);
 
     m_save = screenroutines::commandButton(QStringLiteral("Save Record"),
                                            QStringLiteral("cmdSaveDeductee"), this);
@@ -161,9 +150,11 @@ void AnnexurePanel::buildBoxes(MessageBoxes &boxes)
             "challan; fill in each challan's bank details afterwards."));
         connect(m_transfer, &QPushButton::clicked, this, [this] {
             readEntry();
-            m_sheet.transferToChallans();
+            const bool made = m_sheet.transferToChallans();
             showEntry();
             showFocus();
+            if (made)
+                emit challansMade();
         });
     }
 }
@@ -341,15 +332,6 @@ void AnnexurePanel::connectBoxes()
         if (!m_showing)
             changed(&AnnexureSheet::stateChosen);
     });
-    connect(m_date, &QDateEdit::dateChanged, this, [this] {
-        if (m_showing)
-            return;
-        readEntry();
-        if (!m_sheet.dateChanged()) {
-            showEntry();
-            showFocus();
-        }
-    });
 }
 
 void AnnexurePanel::open()
@@ -373,6 +355,8 @@ bool AnnexurePanel::leaveBox(QWidget *left)
         accepted = m_sheet.partyLeft();
     else if (left == m_state)
         accepted = m_sheet.stateLeft();
+    else if (left == m_date)
+        accepted = m_sheet.dateLeft();
     else if (const auto rule = leftBoxes.constFind(left->objectName());
              rule != leftBoxes.constEnd())
         accepted = m_sheet.boxLeft(*rule);
@@ -426,12 +410,9 @@ void AnnexurePanel::showEntry()
     if (m_party->currentText() != entry.partyName)
         m_party->setCurrentText(entry.partyName);
     m_state->setCurrentIndex(m_state->findText(entry.state, Qt::MatchFixedString));
-    if (entry.date.isValid())
-        m_date->setDate(entry.date);
-    if (entry.fromDate.isValid())
-        m_fromDate->setDate(entry.fromDate);
-    if (entry.toDate.isValid())
-        m_toDate->setDate(entry.toDate);
+    m_date->setDate(entry.date);
+    m_fromDate->setDate(entry.fromDate);
+    m_toDate->setDate(entry.toDate);
     for (int index = 0; index < 3; ++index)
         m_flags[index]->setChecked(entry.flag == QLatin1String(flagCodes[index]));
     m_grossingUp->setCurrentIndex(entry.grossingUp == u"Y" ? 0 : entry.grossingUp == u"N" ? 1
@@ -447,8 +428,6 @@ void AnnexurePanel::showEntry()
                                m_sheet.depositedSum()};
     for (int index = 0; index < int(std::size(blockBoxes)); ++index)
         m_challanBlock.value(QLatin1String(blockBoxes[index]))->setText(block.at(index));
-    if (challan)
-        findChild<QDateEdit *>(QStringLiteral("DTP"))->setDate(challan->date);
     const int chosen = challan ? m_sheet.challans().find(&ChallanEntry::challanId,
                                                          challan->challanId.toInt())
                                : -1;

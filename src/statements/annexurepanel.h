@@ -4,10 +4,10 @@
 #include <QWidget>
 
 class AnnexureSheet;
+class DateBox;
 class FieldPath;
 class MessageBoxes;
 class QComboBox;
-class QDateEdit;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -34,6 +34,10 @@ public:
     void readEntry();
     void showEntry();
 
+signals:
+    /// Form 24Q's rows were turned into challans: the Statement's challans are new.
+    void challansMade();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -57,9 +61,9 @@ private:
     QComboBox *m_party = nullptr;
     QComboBox *m_state = nullptr;
     QComboBox *m_grossingUp = nullptr;
-    QDateEdit *m_date = nullptr;
-    QDateEdit *m_fromDate = nullptr;
-    QDateEdit *m_toDate = nullptr;
+    DateBox *m_date = nullptr;
+    DateBox *m_fromDate = nullptr;
+    DateBox *m_toDate = nullptr;
     QRadioButton *m_flags[3] = {};
     QPushButton *m_save = nullptr;
     QPushButton *m_transfer = nullptr;

@@ -68,8 +68,7 @@ QList<AnnexureEntry> AnnexureRecords::load(const ChallanRowsKey &key) const
         entry.total = amountText(query.value(11));
         if (!m_form.salaryLayout) {
             entry.deducteeCode = nullToText(query.value(12));
-            entry.rate = annexurerules::rateText(query.value(13).toDouble(),
-                                                 m_form.kind == FormKind::Form26Q);
+            entry.rate = annexurerules::rateText(query.value(13).toDouble(), true);
         }
         rows.append(entry);
     }
@@ -117,7 +116,7 @@ AnnexureEntry AnnexureRecords::read(int rowId, const ChallanRowsKey &key) const
     entry.state = text(QStringLiteral("State"));
     entry.stateCode = text(QStringLiteral("StateCode"));
     entry.pin = row.value(QStringLiteral("PIN")).toString();
-    entry.rate = annexurerules::rateText(row.value(QStringLiteral("Rate")).toDouble(), false);
+    entry.rate = annexurerules::rateText(row.value(QStringLiteral("Rate")).toDouble(), true);
     if (!m_form.grossingUpColumn.isEmpty())
         entry.grossingUp = text(m_form.grossingUpColumn);
     if (!m_form.purchaseColumn.isEmpty())
@@ -144,8 +143,7 @@ AnnexureEntry AnnexureRecords::asListed(const AnnexureEntry &entry) const
     for (const auto &[column, member] : amounts)
         listed.*member = amountText(amount(QLatin1String(column), entry.*member));
     if (!m_form.salaryLayout)
-        listed.rate = annexurerules::rateText(numbers::val(entry.rate),
-                                              m_form.kind == FormKind::Form26Q);
+        listed.rate = annexurerules::rateText(numbers::val(entry.rate), true);
     return listed;
 }
 

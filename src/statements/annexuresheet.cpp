@@ -31,6 +31,8 @@ bool isNumeric(const QString &text)
 AnnexureSheet::AnnexureSheet(StatementSheet &statement)
     : m_statement(statement), m_records(statement.session().store, statement.form())
 {
+    // A new entry is dated today, as the screen has always started it.
+    m_entry.date = QDate::currentDate();
 }
 
 const ChallanEntry *AnnexureSheet::challan() const
@@ -191,16 +193,17 @@ bool AnnexureSheet::stateLeft()
     return true;
 }
 
-bool AnnexureSheet::dateChanged()
+bool AnnexureSheet::dateLeft()
 {
+    const QString field = QStringLiteral("dtp105");
     const Session &session = m_statement.session();
     const ChallanEntry *chosen = challan();
-    return m_statement.acceptDate(
-        fieldrules::checkDepositDate(m_entry.date, chosen ? chosen->date : QDate(),
-                                     fieldrules::sessionDate(session.quarterFromDt),
-                                     fieldrules::sessionDate(session.quarterToDt),
-                                     QStringLiteral("dtp105")),
-        m_entry.date);
+    return m_statement.acceptDate(fieldrules::checkDateGiven(m_entry.date, field), m_entry.date)
+           && m_statement.acceptDate(
+               fieldrules::checkDepositDate(m_entry.date, chosen ? chosen->date : QDate(),
+                                            fieldrules::sessionDate(session.quarterFromDt),
+                                            fieldrules::sessionDate(session.quarterToDt), field),
+               m_entry.date);
 }
 
 std::optional<FieldFailure> AnnexureSheet::partyFailure() const
@@ -261,7 +264,7 @@ bool AnnexureSheet::save()
         m_statement.requestFocus(failure->field);
         return false;
     }
-    if (!dateChanged())
+    if (!dateLeft())
         return false;
     for (QString *amount : {&m_entry.amount, &m_entry.rate, &m_entry.deposited}) {
         if (!isNumeric(*amount))
@@ -343,6 +346,8 @@ void AnnexureSheet::deleteRow(int row)
     m_rows.takeRow(row);
     rowsChanged();
     reloadChallans();
+    // Nothing of the deleted row stays in the boxes to be saved again by mistake.
+    clearPartyFields();
     newRow();
 }
 
@@ -380,6 +385,7 @@ bool AnnexureSheet::transferToChallans()
     }
     m_statement.info().noChallan = QString::number(m_statement.storedChallans());
     m_statement.boxes().show({transferredText, appTitle, MessageIcon::Information});
+    m_statement.boxes().show({challansIncompleteText, appTitle, MessageIcon::Information});
     open();
     return true;
 }
@@ -435,10 +441,11 @@ void AnnexureSheet::newRow()
     const int next = m_rows.nextNumber(&AnnexureEntry::rowId);
     m_entry.rowId = QString::number(next);
     m_entry.srlNo = QString::number(next);
+    // Only these boxes empty for the next row: its date, rate and value of purchase stay.
     for (QString *field : {&m_entry.amount, &m_entry.deposited, &m_entry.partyName,
-                           &m_entry.partyNo, &m_entry.tax, &m_entry.surcharge, &m_entry.cess,
-                           &m_entry.total, &m_entry.purchaseValue})
+                           &m_entry.partyNo, &m_entry.tax, &m_entry.surcharge, &m_entry.cess})
         field->clear();
+    taxPartChanged();
     m_editingRow = false;
 }
 

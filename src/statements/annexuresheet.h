@@ -37,6 +37,9 @@ public:
         "You have already entered challan records. auto transfer is not possible anymore.");
     static inline const QString transferredText =
         QStringLiteral("Challan records created properly");
+    static inline const QString challansIncompleteText = QStringLiteral(
+        "The new challans have no date, bank-branch code or challan number yet: enter them on "
+        "the Challan panel before the file is generated.");
 
     explicit AnnexureSheet(StatementSheet &statement);
 
@@ -69,8 +72,8 @@ public:
     /// A state chosen by name: its id and code.
     void stateChosen();
     bool stateLeft();
-    /// The date changed; false when it was put back to the bound it crossed.
-    bool dateChanged();
+    /// Leaving the date; false when it is not a date, or was put back to the bound it crossed.
+    bool dateLeft();
 
     /// Saves the row of the boxes; false when a check refused it or the store failed.
     bool save();

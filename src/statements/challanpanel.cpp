@@ -1,5 +1,6 @@
 #include "statements/challanpanel.h"
 
+#include "core/datebox.h"
 #include "core/fieldpath.h"
 #include "core/formtraits.h"
 #include "core/keyfilters.h"
@@ -9,7 +10,6 @@
 #include "statements/statementsheet.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -119,20 +119,7 @@ void ChallanPanel::buildBoxes(MessageBoxes &boxes)
         m_sectionDescription->setCursorPosition(0);
     });
 
-    m_date = new QDateEdit(this);
-    m_date->setObjectName(QStringLiteral("dtp119"));
-    m_date->setCalendarPopup(true);
-    m_date->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
-    m_date->setDate(QDate::currentDate());
-    connect(m_date, &QDateEdit::dateChanged, this, [this] {
-        if (m_showing)
-            return;
-        readEntry();
-        if (!m_challans.dateChanged()) {
-            showEntry();
-            showFocus();
-        }
-    });
+    m_date = new DateBox(QStringLiteral("dtp119"), this);
 
     m_save = screenroutines::commandButton(QStringLiteral("Save Record"),
                                            QStringLiteral("cmdSavechallan"), this);
@@ -250,6 +237,8 @@ bool ChallanPanel::leaveBox(QWidget *left)
         accepted = m_challans.amountLeft(left->objectName().mid(6, 3).toInt());
     else if (left == m_section)
         accepted = m_challans.sectionLeft();
+    else if (left == m_date)
+        accepted = m_challans.dateLeft();
     showEntry();
     m_statement.takeFocus();
     return accepted;
@@ -294,8 +283,7 @@ void ChallanPanel::showEntry()
         m_section->setCurrentText(entry.section);
     m_sectionDescription->setText(m_challans.sectionDescription());
     m_sectionDescription->setCursorPosition(0);
-    if (entry.date.isValid())
-        m_date->setDate(entry.date);
+    m_date->setDate(entry.date);
     const challanrules::NumberBoxes numbers = m_challans.numberBoxes();
     box("txtCh(125)")->setEnabled(numbers.challanNo);
     box("txtCh(126)")->setEnabled(numbers.voucherNo);

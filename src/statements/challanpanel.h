@@ -4,10 +4,10 @@
 #include <QWidget>
 
 class ChallanSheet;
+class DateBox;
 class FieldPath;
 class MessageBoxes;
 class QComboBox;
-class QDateEdit;
 class QLineEdit;
 class QPushButton;
 class RowListView;
@@ -55,7 +55,7 @@ private:
     QHash<QString, QLineEdit *> m_boxes;
     QComboBox *m_section = nullptr;
     QLineEdit *m_sectionDescription = nullptr;
-    QDateEdit *m_date = nullptr;
+    DateBox *m_date = nullptr;
     QPushButton *m_save = nullptr;
     RowListView *m_list = nullptr;
     FieldPath *m_path = nullptr;

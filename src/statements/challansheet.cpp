@@ -21,6 +21,8 @@ const QString zero = QStringLiteral("0.00");
 ChallanSheet::ChallanSheet(StatementSheet &statement)
     : m_statement(statement), m_records(statement.session().store, statement.form())
 {
+    // A new entry is dated today, as the screen has always started it.
+    m_entry.date = QDate::currentDate();
 }
 
 QStringList ChallanSheet::sections() const
@@ -83,13 +85,14 @@ bool ChallanSheet::amountLeft(int index)
     return false;
 }
 
-bool ChallanSheet::dateChanged()
+bool ChallanSheet::dateLeft()
 {
-    const Session &session = m_statement.session();
-    const QDate quarterStart = fieldrules::sessionDate(session.quarterFromDt);
-    return m_statement.acceptDate(
-        fieldrules::checkNotBeforeQuarter(m_entry.date, quarterStart, QStringLiteral("dtp119")),
-        m_entry.date);
+    const QString field = QStringLiteral("dtp119");
+    const QDate quarterStart = fieldrules::sessionDate(m_statement.session().quarterFromDt);
+    return m_statement.acceptDate(fieldrules::checkDateGiven(m_entry.date, field), m_entry.date)
+           && m_statement.acceptDate(
+               fieldrules::checkNotBeforeQuarter(m_entry.date, quarterStart, field),
+               m_entry.date);
 }
 
 void ChallanSheet::sectionChanged()
@@ -117,7 +120,7 @@ bool ChallanSheet::sectionLeft()
 
 bool ChallanSheet::save()
 {
-    if (!dateChanged())
+    if (!dateLeft())
         return false;
     const int serial = int(numbers::val(m_entry.slNo));
     if (serial == 0 || m_statement.basicInfoId() == 0)

@@ -47,8 +47,9 @@ public:
     challanrules::NumberBoxes numberBoxes() const { return m_numberBoxes; }
     /// Leaving an amount box; false when it refused.
     bool amountLeft(int index);
-    /// The date changed; false when it was before the quarter and was put back.
-    bool dateChanged();
+    /// Leaving the date; false when it is not a date, or was before the quarter and was put
+    /// back to its first day.
+    bool dateLeft();
     /// The section changed: its description.
     void sectionChanged();
     /// Leaving the section; false for a section the master does not hold.

@@ -79,6 +79,7 @@ FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxe
     connect(m_generation, &GenerationFrame::hideAsked, this, [this] { showGenerationFrame(false); });
     connect(m_generation, &GenerationFrame::coverFormAsked, this, &FrmStatement::coverForm);
     m_generation->setListedRows([this] { return m_annexureRows.rows().rowCount(); });
+    connect(m_annexure, &AnnexurePanel::challansMade, this, [this] { m_challans.reload(); });
     connect(m_challan, &ChallanPanel::annexureAsked, this, [this] {
         if (m_panelButtons[indexOf(Panel::Annexure)]->isEnabled())
             m_panelButtons[indexOf(Panel::Annexure)]->click();
@@ -92,7 +93,8 @@ void FrmStatement::buildButtons()
                                                : QStringLiteral("D&eductee Detail");
     const QStringList names = {"cmdBasicInfo", "cmdChallan", "cmdDeducteeDetails",
                                "cmdEmplyeeDetails"};
-    const QStringList captions = {"&Basic Information", "C&hallan", party, "S&alary Detail"};
+    // Each Alt+letter of the screen does one thing: Salary Detail leaves A to Add.
+    const QStringList captions = {"&Basic Information", "C&hallan", party, "Sa&lary Detail"};
     for (int index = 0; index < 4; ++index) {
         m_panelButtons[index] = screenroutines::commandButton(captions.at(index),
                                                               names.at(index), this);
@@ -106,7 +108,7 @@ void FrmStatement::buildButtons()
     connect(m_makeFile, &QPushButton::clicked, this, &FrmStatement::makeFile);
 
     const QString master = form.hasSalaryDetail ? QStringLiteral("&Employee Master")
-                                                : QStringLiteral("D&eductee Master");
+                                                : QStringLiteral("Deductee &Master");
     const QStringList commands = {"&Add", "&Save Form", master, "&Delete", "Cl&ose"};
     for (int index = 0; index < 5; ++index) {
         m_cmd[index] = screenroutines::commandButton(
@@ -208,6 +210,8 @@ void FrmStatement::command(int index)
 
 void FrmStatement::showPanel(Panel panel)
 {
+    // Choosing a panel hides the generation frame and brings the command buttons back.
+    showGenerationFrame(false);
     syncBasicInfo();
     m_sheet.showPanel(panel);
     // The panel shows before it opens, so that its first field can take the focus.

@@ -81,11 +81,11 @@ GenerationFrame::GenerationFrame(StatementSheet &statement, MessageBoxes &boxes,
     const QString cover = form.collectsTax ? QStringLiteral("27B") : QStringLiteral("27A");
     m_ok = screenroutines::commandButton(QStringLiteral("Generate &Form ") + form.formType,
                                          QStringLiteral("cmdOK"), this);
-    m_print = screenroutines::commandButton(QStringLiteral("&Print Form ") + cover,
+    m_print = screenroutines::commandButton(QStringLiteral("P&rint Form ") + cover,
                                             QStringLiteral("cmdPrintForm27A"), this);
-    m_export = screenroutines::commandButton(QStringLiteral("&Export Form ") + cover,
+    m_export = screenroutines::commandButton(QStringLiteral("E&xport Form ") + cover,
                                              QStringLiteral("cmdExportForm27A"), this);
-    auto *hide = screenroutines::commandButton(QStringLiteral("&Hide"),
+    auto *hide = screenroutines::commandButton(QStringLiteral("H&ide"),
                                                QStringLiteral("cmdHidefilegenration"), this);
     m_print->setEnabled(false);
     connect(m_ok, &QPushButton::clicked, this, &GenerationFrame::generate);
@@ -150,10 +150,14 @@ void GenerationFrame::generate()
     // What stands in the name's field is what the file and the log take.
     panel.fileName = field(QStringLiteral("txtFileNameFG"))->text();
     const GenerationFlow flow(m_statement.session().store, m_statement.form());
-    flow.generate(panel, m_listedRows ? m_listedRows() : 0, m_boxes,
-                  QDateTime::currentDateTime());
-    // The log row is there even when the file failed, and the cover form needs no more.
-    m_print->setEnabled(true);
+    const GenerationOutcome outcome =
+        flow.generate(panel, m_listedRows ? m_listedRows() : 0, m_boxes,
+                      QDateTime::currentDateTime())
+            .outcome;
+    // The cover form reads the log row, which is there even when the file failed; a generation
+    // declined or without its log row changes nothing.
+    if (outcome != GenerationOutcome::Declined && outcome != GenerationOutcome::LogFailed)
+        m_print->setEnabled(true);
 }
 
 void GenerationFrame::chooseFile()

@@ -1,5 +1,6 @@
 #include "statements/salarypanel.h"
 
+#include "core/datebox.h"
 #include "core/fieldpath.h"
 #include "core/keyfilters.h"
 #include "core/screenroutines.h"
@@ -8,7 +9,6 @@
 #include "statements/statementsheet.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -29,8 +29,6 @@ const int figureColumns[3][7] = {
     {343, 220, 224, 225, 346, 347, 0},
 };
 
-const QString dateFormat = QStringLiteral("dd/MM/yyyy");
-
 QLabel *labelFor(QWidget *field, const QString &text, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
@@ -48,13 +46,10 @@ QString labelOf(int index)
     return {};
 }
 
-QDateEdit *dateEdit(const QString &name, const QString &tip, QWidget *parent)
+DateBox *dateBox(const QString &name, const QString &tip, QWidget *parent)
 {
-    auto *date = new QDateEdit(parent);
-    date->setObjectName(name);
+    auto *date = new DateBox(name, parent);
     date->setToolTip(tip);
-    date->setCalendarPopup(true);
-    date->setDisplayFormat(dateFormat);
     return date;
 }
 
@@ -93,11 +88,10 @@ void SalaryPanel::buildEmployee()
     m_employee->setInsertPolicy(QComboBox::NoInsert);
     keyfilters::install(m_employee->lineEdit(), {keyfilters::Rule::UpperCase});
 
-    m_from = dateEdit(QStringLiteral("DTP204From"),
-                      QStringLiteral("Date from employed from (during the financial year)"),
-                      this);
-    m_to = dateEdit(QStringLiteral("DTP204To"),
-                    QStringLiteral("Date to employed (during the financial year)"), this);
+    m_from = dateBox(QStringLiteral("DTP204From"),
+                     QStringLiteral("Date from employed from (during the financial year)"), this);
+    m_to = dateBox(QStringLiteral("DTP204To"),
+                   QStringLiteral("Date to employed (during the financial year)"), this);
 
     m_category = new QComboBox(this);
     m_category->setObjectName(QStringLiteral("cmbCat"));
@@ -278,10 +272,11 @@ void SalaryPanel::open()
 
 bool SalaryPanel::leaveField(QWidget *field)
 {
-    if (field != m_employee)
+    if (field != m_employee && field != m_from && field != m_to)
         return true;
     readEntry();
-    const bool accepted = m_salary.employeeLeft();
+    const bool accepted = field == m_employee ? m_salary.employeeLeft()
+                                              : m_salary.periodLeft(field->objectName());
     showEntry();
     m_statement.takeFocus(); // the path keeps the focus in a refused field
     return accepted;
@@ -362,10 +357,8 @@ void SalaryPanel::showEntry()
     m_perks->showPerks(entry);
     if (m_employee->currentText() != entry.empName)
         m_employee->setCurrentText(entry.empName);
-    if (entry.fromDate.isValid())
-        m_from->setDate(entry.fromDate);
-    if (entry.toDate.isValid())
-        m_to->setDate(entry.toDate);
+    m_from->setDate(entry.fromDate);
+    m_to->setDate(entry.toDate);
     m_category->setCurrentIndex(entry.category);
     m_categoryName->setText(SalaryEntry::categoryName(entry.category));
     m_flag->setText(entry.flag212);

@@ -5,11 +5,11 @@
 #include <QHash>
 #include <QWidget>
 
+class DateBox;
 class FieldPath;
 class MessageBoxes;
 class PerkFrame;
 class QComboBox;
-class QDateEdit;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -63,8 +63,8 @@ private:
     QComboBox *m_employee = nullptr;
     QComboBox *m_category = nullptr;
     QLabel *m_categoryName = nullptr;
-    QDateEdit *m_from = nullptr;
-    QDateEdit *m_to = nullptr;
+    DateBox *m_from = nullptr;
+    DateBox *m_to = nullptr;
     QLineEdit *m_flag = nullptr;
     QLineEdit *m_salaryId = nullptr;
     QLineEdit *m_employeeId = nullptr;

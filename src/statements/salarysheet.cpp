@@ -1,6 +1,7 @@
 #include "statements/salarysheet.h"
 
 #include "core/cannedmessages.h"
+#include "core/fieldrules.h"
 #include "core/formtraits.h"
 #include "core/messageboxes.h"
 #include "core/numbers.h"
@@ -35,7 +36,6 @@ QStringList SalarySheet::offered(SectionKind kind) const
 
 void SalarySheet::open()
 {
-    clearEntry();
     try {
         m_names = m_records.employeeNames(m_statement.session().curGroupId);
         m_list.setRows(m_records.load(m_statement.basicInfoId()));
@@ -43,7 +43,6 @@ void SalarySheet::open()
         m_statement.reportStoreError(error);
     }
     startNew();
-    loadGrids();
     m_statement.requestFocus(QStringLiteral("cmbEmpname"));
 }
 
@@ -61,6 +60,8 @@ void SalarySheet::clearEntry()
 
 void SalarySheet::startNew()
 {
+    // A new row owes nothing to the one before it: not a figure, not a section's row.
+    clearEntry();
     try {
         m_entry.salaryId = QString::number(m_records.nextSalaryId());
     } catch (const StoreError &error) {
@@ -68,6 +69,7 @@ void SalarySheet::startNew()
     }
     // Salary rows are kept numbered without gaps, so the next is one past the count.
     m_entry.txt[201] = QString::number(m_list.rowCount() + 1);
+    loadGrids();
 }
 
 void SalarySheet::loadGrids()
@@ -95,6 +97,12 @@ bool SalarySheet::employeeLeft()
     refuse({{chooseEmployeeText, appTitle, MessageIcon::Information},
             QStringLiteral("cmbEmpname")});
     return false;
+}
+
+bool SalarySheet::periodLeft(const QString &field)
+{
+    QDate &date = field == u"DTP204From" ? m_entry.fromDate : m_entry.toDate;
+    return m_statement.acceptDate(fieldrules::checkDateGiven(date, field), date);
 }
 
 void SalarySheet::boxChanged(int index)

@@ -44,6 +44,9 @@ public:
     /// Leaving the employee's name: the details from the master; false for a name that the
     /// group does not have.
     bool employeeLeft();
+    /// Leaving a date of the period of employment (DTP204From or DTP204To); false when it is
+    /// not a date.
+    bool periodLeft(const QString &field);
 
     /// txt(index) changed.
     void boxChanged(int index);
@@ -69,7 +72,8 @@ public:
 
 private:
     void clearEntry();
-    /// The entry is a new row: the next key and the serial number after the list's.
+    /// The entry is a new, empty row with empty grids: the next key and the serial number after
+    /// the list's.
     void startNew();
     void loadGrids();
     /// A box set by the program, with the chain it starts when its text changes.

@@ -293,6 +293,12 @@ void TestSalarySheet::savedLoadedAndChanged()
     QCOMPARE(f.salary.list().rowCount(), 1);
     QCOMPARE(f.salary.entry().salaryId, "2");
     QCOMPARE(f.salary.entry().box(201), "2");
+    // The next employee inherits nothing: not a figure, not a row of a section's grid.
+    const SalaryEntry &next = f.salary.entry();
+    QCOMPARE(next.empName + "/" + next.box(205) + "/" + next.box(210) + "/" + next.box(220),
+             "/0.00/0.00/0.00");
+    for (SectionKind kind : SectionGrid::kinds)
+        QVERIFY(f.salary.grid(kind).enteredRows().isEmpty());
 
     // A click loads the row with its grids; the unstored totals come back from them.
     f.salary.open();
@@ -363,13 +369,16 @@ void TestSalarySheet::failureKeepsPreviousDetail()
     QFETCH(QString, trigger);
     QFETCH(QString, action);
     SalaryFixture f;
-    for (const char *name : {"LATA IYER", "MOHAN DAS"}) {
+    const auto enterEmployee = [&f](const QString &name) {
         f.choose(name);
         f.type(205, "500000");
         for (SectionKind kind : SectionGrid::kinds) {
             QVERIFY(f.enter(kind, f.salary.offered(kind).first(), {"10", "10", "10"}));
             QVERIFY(f.salary.gridOk(kind));
         }
+    };
+    for (const char *name : {"LATA IYER", "MOHAN DAS"}) {
+        enterEmployee(name);
         QVERIFY(f.salary.save());
     }
     const auto snapshot = [&f] {
@@ -390,6 +399,8 @@ void TestSalarySheet::failureKeepsPreviousDetail()
     } else {
         if (action == u"update")
             f.salary.loadRow(0);
+        else
+            enterEmployee("NEHA SHAH");
         f.type(205, "999999");
         QVERIFY(!f.salary.save());
     }
