@@ -116,6 +116,7 @@ void AnnexurePanel::buildBoxes(MessageBoxes &boxes)
     m_grossingUp->addItems({QStringLiteral("Yes"), QStringLiteral("No"), QStringLiteral("Na")});
 
     m_date = new DateBox(QStringLiteral("dtp105"), this);
+    m_date->setDate(m_sheet.entry().date);
     // The employee's period comes from the master and is only shown here.
     m_fromDate = new DateBox(QStringLiteral("dtpFromDate"), this);
     m_toDate = new DateBox(QStringLiteral("DtpToDate"), this);

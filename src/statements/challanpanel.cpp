@@ -120,6 +120,7 @@ void ChallanPanel::buildBoxes(MessageBoxes &boxes)
     });
 
     m_date = new DateBox(QStringLiteral("dtp119"), this);
+    m_date->setDate(m_challans.entry().date);
 
     m_save = screenroutines::commandButton(QStringLiteral("Save Record"),
                                            QStringLiteral("cmdSavechallan"), this);

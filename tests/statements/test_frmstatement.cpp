@@ -63,6 +63,8 @@ void openSaved(StatementFixture &f, FrmStatement &screen)
 void enterChallan(StatementFixture &f, FrmStatement &screen, const QString &date)
 {
     child<QPushButton>(screen, "cmdChallan")->click();
+    QCOMPARE(child<QLineEdit>(screen, "dtp119")->text(),
+             QDate::currentDate().toString("dd/MM/yyyy"));
     if (f.form.challanHasSection())
         typeAndEnter(screen, f.section());
     typeDateAndEnter(screen, f.boxes, date);
@@ -237,9 +239,11 @@ void TestFrmStatement::datesTypedOverTheBox()
     QFETCH(QString, challanDate);
     enterChallan(f, screen, challanDate);
     QCOMPARE(f.data.count(f.form.challanTable), 1);
+    // A new row's date starts at today's, as the challan's did.
+    child<QPushButton>(screen, "cmdDeducteeDetails")->click();
+    auto *date = child<QLineEdit>(screen, "dtp105");
+    QCOMPARE(date->text(), QDate::currentDate().toString("dd/MM/yyyy"));
     if (!refusedDate.isEmpty()) {
-        child<QPushButton>(screen, "cmdDeducteeDetails")->click();
-        auto *date = child<QLineEdit>(screen, "dtp105");
         FieldPath::enter(date);
         typeDateAndEnter(screen, f.boxes, refusedDate);
         QTEST(f.boxes.texts().last(), "refusal");
