@@ -15,6 +15,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QScopeGuard>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -359,6 +360,51 @@ private slots:
         QCOMPARE(QDir(data.folder()).entryList(all),
                  (takenOver || cutOff ? QStringList{DataStore::fileName} : listing));
     }
+    // The store tool as an installer or an office runs it: a usage error exits 2 with the usage
+    // line, a store that cannot be made 3, each saying why in words; no file is left behind.
+    void newStoreTool_data()
+    {
+        // DIR: a folder of the test's own
+        testsuite::columns<QString, int, QString>("arguments", "exitCode", "err");
+        const auto row = [](const char *name, const char *arguments, int exitCode,
+                            const QString &err) {
+            QTest::newRow(name) << QString::fromLatin1(arguments) << exitCode << err;
+        };
+        const QString usage = QStringLiteral("\nusage: kelvora-newstore [--year YYYY]");
+        row("made", "--year 2026 DIR/Kelvora.db", 0, "");
+        row("unknown option", "--bogus DIR/Kelvora.db", 2, "Unknown option 'bogus'." + usage);
+        row("year without its value", "DIR/Kelvora.db --year", 2,
+            "Missing value after '--year'." + usage);
+        row("year of two digits", "--year 26 DIR/Kelvora.db", 2,
+            "the year must be four digits, such as 2026, not \"26\"" + usage);
+        row("year out of range", "--year 1800 DIR/Kelvora.db", 2,
+            "the year 1800 is out of range: give a year from 2000 to 2099" + usage);
+        row("no store named", "--year 2026", 2, "the store to create is missing" + usage);
+        row("folder not there", "DIR/gone/Kelvora.db", 3,
+            "The data store DIR/gone/Kelvora.db cannot be made: its folder DIR/gone is not "
+            "there.\n");
+    }
+    void newStoreTool()
+    {
+        QFETCH(QString, arguments);
+        QFETCH(int, exitCode);
+        QFETCH(QString, err);
+        QTemporaryDir dir;
+        QProcess tool;
+        tool.start(QStringLiteral(KELVORA_NEWSTORE_PATH),
+                   arguments.replace("DIR", dir.path()).split(u' '));
+        QVERIFY(tool.waitForFinished(60000) && tool.exitStatus() == QProcess::NormalExit);
+        QCOMPARE(tool.exitCode(), exitCode);
+        const QString errors = QString::fromUtf8(tool.readAllStandardError());
+        QVERIFY2(err.isEmpty() ? errors.isEmpty()
+                               : errors.startsWith("kelvora-newstore: "
+                                                   + err.replace("DIR", dir.path())),
+                 qPrintable(errors));
+        const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        QCOMPARE(QDir(dir.path()).entryList(all),
+                 exitCode == 0 ? QStringList{DataStore::fileName} : QStringList());
+    }
+
     void startReadsTheAssessmentPeriod()
     {
         QTemporaryDir dir;
