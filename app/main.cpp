@@ -39,8 +39,7 @@ int main(int argc, char *argv[])
     try {
         opened = startup::openStore(storeFolder, boxes);
     } catch (const StoreError &error) {
-        boxes.show({error.description(), error.code().isEmpty() ? appTitle : error.code(),
-                    MessageIcon::Critical, MessageButtons::Ok});
+        boxes.show({error.description(), appTitle, MessageIcon::Critical, MessageButtons::Ok});
         return 1;
     }
     if (!opened)

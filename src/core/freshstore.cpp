@@ -8,6 +8,7 @@
 #include "core/transaction.h"
 
 #include <QDate>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
@@ -21,7 +22,7 @@ QList<QStringList> referenceRows(const QString &name)
 {
     QFile file(QStringLiteral(":/reference/%1").arg(name));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        throw StoreError({}, QStringLiteral("The reference list %1 could not be read.").arg(name));
+        throw StoreError({}, QStringLiteral("the reference list %1 cannot be read").arg(name));
     QList<QStringList> rows;
     bool header = true;
     while (!file.atEnd()) {
@@ -82,12 +83,24 @@ void create(const QString &path, int firstYear)
 {
     if (QFileInfo::exists(path))
         throw StoreError({}, QStringLiteral("A data store is already there: %1").arg(path));
+    const auto failure = [&path](const QString &why) {
+        return StoreError({}, QStringLiteral("The data store %1 cannot be made: %2.")
+                                  .arg(QDir::toNativeSeparators(path), why));
+    };
+    const QString folder = QFileInfo(path).absolutePath();
+    if (!QFileInfo(folder).isDir()) {
+        throw failure(QStringLiteral("its folder %1 is not there")
+                          .arg(QDir::toNativeSeparators(folder)));
+    }
     // Built under another name and put in place only when whole, so that a failure never
     // leaves a store that looks usable and is not.
     const QString building = path + QStringLiteral(".building");
     QFile::remove(building);
     try {
         fill(building, firstYear);
+    } catch (const StoreError &error) {
+        QFile::remove(building);
+        throw failure(error.reason());
     } catch (...) {
         QFile::remove(building);
         throw;

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <functional>
+
 namespace storeaccess {
 
 namespace {
@@ -49,18 +51,49 @@ QString inUseText(const QString &path, const StoreLock &lock)
     return QStringLiteral("The data store %1 is in use by %2.").arg(shown(path), lock.holder());
 }
 
+/// Runs @p step on the store at @p path, so that the engine's failures in it come out in words
+/// with the file named; a refusal of this program's own, which carries no engine code, passes
+/// as it is.
+void inWords(const QString &path, const std::function<void()> &step)
+{
+    try {
+        step();
+    } catch (const StoreError &error) {
+        const int code = error.primaryCode();
+        if (error.code().isEmpty())
+            throw;
+        if (code == StoreError::corruptCode || code == StoreError::notADatabaseCode)
+            throw StoreError({}, damagedText.arg(shown(path)));
+        throw refusal(path, error.reason());
+    }
+}
+
 } // namespace
 
 Inspection inspect(const QString &path)
 {
     if (!QFileInfo::exists(path))
         throw DataStore::missingFile(path);
-    if (!storecheck::isOwnStore(path))
-        throw StoreError({}, storecheck::notOwnStoreText(shown(path)));
     Inspection found;
     found.readOnlyReason = readOnlyReason(path);
-    const DataStore store(path, DataStore::OpenMode::ReadOnly);
-    found.upgradeDue = storeupgrade::isDue(store);
+    inWords(path, [&] {
+        if (!storecheck::isOwnStore(path))
+            throw StoreError({}, storecheck::notOwnStoreText(shown(path)));
+        // Opened for writing where it can be, so that SQLite first puts back the last saved
+        // state of a store that a crash left in the middle of a save; nothing else is written.
+        const DataStore store(path, found.readOnlyReason.isEmpty()
+                                        ? DataStore::OpenMode::ExistingFile
+                                        : DataStore::OpenMode::ReadOnly);
+        const int version = storeupgrade::version(store);
+        if (version > storeupgrade::currentVersion) {
+            throw StoreError({}, newerText.arg(shown(path))
+                                     .arg(version)
+                                     .arg(storeupgrade::currentVersion));
+        }
+        if (!storecheck::isSound(store))
+            throw StoreError({}, damagedText.arg(shown(path)));
+        found.upgradeDue = storeupgrade::isDue(store);
+    });
     return found;
 }
 
@@ -90,9 +123,11 @@ std::optional<OpenedStore> openForProgram(const QString &path, MessageBoxes &box
                        MessageButtons::YesNo})
                != Answer::Yes)
         return std::nullopt;
-    opened.store = std::make_unique<DataStore>(path);
-    if (!opened.lock)
-        opened.store->setViewOnly();
+    inWords(path, [&] {
+        opened.store = std::make_unique<DataStore>(path);
+        if (!opened.lock)
+            opened.store->setViewOnly();
+    });
     return opened;
 }
 
@@ -115,11 +150,13 @@ OpenedStore openForBatch(const QString &path, Access access, std::chrono::millis
         }
         opened.lock = std::move(lock);
     }
-    opened.store = std::make_unique<DataStore>(path);
-    if (opened.lock)
-        storeupgrade::run(*opened.store);
-    else
-        opened.store->setViewOnly();
+    inWords(path, [&] {
+        opened.store = std::make_unique<DataStore>(path);
+        if (opened.lock)
+            storeupgrade::run(*opened.store);
+        else
+            opened.store->setViewOnly();
+    });
     return opened;
 }
 

@@ -26,6 +26,16 @@ struct OpenedStore
  */
 namespace storeaccess {
 
+/// The refusal of a store whose pages SQLite finds broken (%1: the file).
+inline const QString damagedText =
+    QStringLiteral("The data store %1 is damaged: parts of the file are missing or overwritten. "
+                   "It was left as it is; restore it from a backup.");
+/// The refusal of a store that a newer program wrote (%1: the file, %2: its version, %3: the
+/// newest version that this program knows).
+inline const QString newerText =
+    QStringLiteral("The data store %1 was written by a newer Kelvora: it is of version %2, and "
+                   "this program knows the versions up to %3. It was left as it is.");
+
 /// What is known of a store before anything is written to it.
 struct Inspection
 {
@@ -33,7 +43,9 @@ struct Inspection
     QString readOnlyReason; ///< empty when the file and its folder can be written
 };
 
-/// Refuses a missing file and one that is not a store of this program; reads the rest.
+/// Refuses a missing file, one that is not a store of this program, a damaged store and one of
+/// a newer version; reads the rest. Nothing is written to the store but what SQLite itself
+/// restores of a save that a crash cut short.
 Inspection inspect(const QString &path);
 
 /**

@@ -52,6 +52,11 @@ QString notOwnStoreText(const QString &path)
         .arg(QDir::toNativeSeparators(path));
 }
 
+bool isSound(const DataStore &store)
+{
+    return store.scalar(QStringLiteral("PRAGMA integrity_check(1)")).toString() == u"ok";
+}
+
 bool isMarked(const DataStore &store)
 {
     return store.scalar(QStringLiteral("PRAGMA application_id")).toInt() == applicationId;

@@ -24,6 +24,10 @@ bool isOwnStore(const QString &path);
 /// The refusal of a file that is not one, as the start and the front ends give it.
 QString notOwnStoreText(const QString &path);
 
+/// Whether SQLite's check of the store's pages finds them whole. A store too damaged for the
+/// check to run throws StoreError, with the engine's code.
+bool isSound(const DataStore &store);
+
 /// Whether the open store already carries this program's application id.
 bool isMarked(const DataStore &store);
 /// Writes the application id into the store.

@@ -1,6 +1,16 @@
 #include "core/storelock.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QThread>
+
+namespace {
+
+// A program that is making its lock has it empty for an instant, before it marks the file as
+// held and writes its name into it.
+constexpr unsigned long makingTimeMs = 100;
+
+} // namespace
 
 StoreLock::StoreLock(const QString &storePath)
     : m_path(storePath + QStringLiteral(".lock")), m_file(m_path)
@@ -12,7 +22,26 @@ StoreLock::StoreLock(const QString &storePath)
 
 bool StoreLock::take(std::chrono::milliseconds wait)
 {
+    clearUnreadable();
     return m_file.tryLock(wait);
+}
+
+void StoreLock::clearUnreadable()
+{
+    if (!isUnreadable())
+        return;
+    QThread::msleep(makingTimeMs);
+    // QLockFile guards its own removal of a dead process's lock with this name: taking it too,
+    // two programs never remove a lock at once, nor one that the other has just made instead.
+    QLockFile removal(m_path + QStringLiteral(".rmlock"));
+    // The removal itself fails while a running program holds the file.
+    if (removal.tryLock() && isUnreadable())
+        m_file.removeStaleLockFile();
+}
+
+bool StoreLock::isUnreadable() const
+{
+    return QFileInfo::exists(m_path) && !m_file.getLockInfo(nullptr, nullptr, nullptr);
 }
 
 bool StoreLock::heldByAnother() const

@@ -8,7 +8,9 @@
  * The lock that keeps two programs from writing one data store at the same time: a lock file
  * beside the store, held by the program, the batch front ends and the backup for as long as
  * they use it. A lock left by a program that ended without letting go (a crash, a kill) is
- * taken over when the lock tells a process of this machine that is no longer running.
+ * taken over when the lock tells a process of this machine that is no longer running, and so is
+ * one that tells no process at all (empty or garbled, as a power cut leaves it). A lock of
+ * another machine cannot be checked from here and is kept.
  */
 class StoreLock
 {
@@ -31,6 +33,10 @@ public:
     QString lockPath() const { return m_path; }
 
 private:
+    /// Removes a lock file that names no process, which no one can be holding.
+    void clearUnreadable();
+    bool isUnreadable() const;
+
     QString m_path;
     QLockFile m_file;
 };

@@ -184,10 +184,14 @@ std::optional<QVariant> addedColumnValue(const QString &table, const QString &co
     return std::nullopt;
 }
 
+int version(const DataStore &store)
+{
+    return store.scalar(QStringLiteral("PRAGMA user_version")).toInt();
+}
+
 bool isDue(const DataStore &store)
 {
-    return store.scalar(QStringLiteral("PRAGMA user_version")).toInt() < currentVersion
-           || !hasChapterViaSections(store);
+    return version(store) < currentVersion || !hasChapterViaSections(store);
 }
 
 void run(const DataStore &store)

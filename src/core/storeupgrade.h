@@ -15,6 +15,10 @@ namespace storeupgrade {
 constexpr int olderVersion = 1;
 constexpr int currentVersion = 2;
 
+/// The schema version that the store carries; above currentVersion for a store written by a
+/// newer program.
+int version(const DataStore &store);
+
 /// Whether a start has anything to write: a store of an older version, or one without the
 /// CHAPVIAU sections that every start makes sure of.
 bool isDue(const DataStore &store);

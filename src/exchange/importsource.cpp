@@ -10,16 +10,12 @@
 
 namespace {
 
-// The engine's primary result codes that tell a damaged store from a file of another kind.
-constexpr int corruptCode = 11;
-constexpr int notADatabaseCode = 26;
-
 ImportError refusalOf(const StoreError &error)
 {
-    switch (error.code().toInt() & 0xff) {
-    case corruptCode:
+    switch (error.primaryCode()) {
+    case StoreError::corruptCode:
         return ImportError(ImportSource::damagedText.arg(error.description()));
-    case notADatabaseCode:
+    case StoreError::notADatabaseCode:
         return ImportError(ImportSource::foreign(error.description()));
     default:
         return ImportError(ImportSource::unreadableText.arg(error.description()));

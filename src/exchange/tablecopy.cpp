@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr int constraintCode = 19;
-
 QString quoted(const QString &name)
 {
     return u'"' + name + u'"';
@@ -121,7 +119,7 @@ qint64 TableCopy::copyRange(qint64 after, qint64 upTo, qint64 copiedBefore) cons
     } catch (const StoreError &error) {
         // Any other failure may have ended the transaction; only a refused row leaves it open
         // for finding that row.
-        if ((error.code().toInt() & 0xff) != constraintCode)
+        if (error.primaryCode() != StoreError::constraintCode)
             throw;
     }
     QList<qint64> rowids;

@@ -4,6 +4,7 @@
 #include "core/schema.h"
 #include "core/session.h"
 #include "core/startup.h"
+#include "core/storeaccess.h"
 #include "core/storeerror.h"
 #include "core/storeupgrade.h"
 #include "core/transaction.h"
@@ -14,10 +15,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QScopeGuard>
 #include <QSqlQuery>
 #include <QSqlRecord>
-#include <QSysInfo>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -72,12 +73,6 @@ const char *const challanTables[] = {"TranChallanE24", "TranChallanE26", "TranCh
                                      "TranChallanE27E"};
 
 const QString unmarked = QStringLiteral("PRAGMA application_id = 0");
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// Makes a path read-only, when wanted, until the guard ends: permissions do not stop root, a
 /// read-only bind mount does.
@@ -240,9 +235,12 @@ private slots:
     // lock; and whatever happens, nothing written to the store or beside it that should not be.
     void badStores_data()
     {
-        // store: statements that make it what it is, or "empty" or "missing"
-        // opened: "refused" (text in the refusal), "none" or "view only" (text in the
-        // question), "locked" (opened for writing)
+        // store: statements that make it what it is, or "empty", "missing", "overwritten",
+        // "cut short" or "cut off mid-save"
+        // condition: "file" or "folder" read-only, "locked" by another program, or one of
+        // leftLocks()
+        // opened: "refused" (text in the refusal, STORE for the store's path), "none" or
+        // "view only" (text in the question), "locked" (opened for writing)
         testsuite::columns<QString, QString, Answer, QString, QString>(
             "store", "condition", "answer", "text", "opened");
         const auto row = [](const char *name, const QString &store, const char *condition,
@@ -270,7 +268,24 @@ private slots:
             "the file is read-only, and it must first be brought up to date", "refused");
         row("in use, viewed", "", "locked", Answer::Yes, inUse, "view only");
         row("in use, declined", "", "locked", Answer::No, inUse, "none");
-        row("left locked by a crash", "", "stale", Answer::None, "", "locked");
+        row("left locked by a crash", "", "crashed", Answer::None, "", "locked");
+        row("cut off in the middle of a save", "cut off mid-save", "crashed", Answer::None, "",
+            "locked");
+        row("empty lock of a power cut", "", "power cut (empty)", Answer::None, "", "locked");
+        row("garbled lock of a power cut", "", "power cut (garbled)", Answer::None, "",
+            "locked");
+        row("locked on another machine", "", "other machine", Answer::No,
+            "is in use by kelvora (process 4242) on the machine OTHER-PC", "none");
+        const QString damaged = storeaccess::damagedText.arg("STORE");
+        row("pages overwritten", "overwritten", "", Answer::None, damaged, "refused");
+        row("cut short", "cut short", "", Answer::None, damaged, "refused");
+        row("newer version",
+            QStringLiteral("PRAGMA user_version = %1").arg(storeupgrade::currentVersion + 1), "",
+            Answer::None,
+            storeaccess::newerText.arg("STORE")
+                .arg(storeupgrade::currentVersion + 1)
+                .arg(storeupgrade::currentVersion),
+            "refused");
     }
     void badStores()
     {
@@ -281,22 +296,31 @@ private slots:
         QFETCH(QString, opened);
         const TestStore data;
         const QString path = data.store().path();
-        if (store == u"empty" || store == u"missing")
+        const QByteArray saved = contentsOf(path);
+        if (store == u"empty" || store == u"missing") {
             QVERIFY(store == u"empty" ? QFile::resize(path, 0) : QFile::remove(path));
-        for (const QString &sql : store.split(u';', Qt::SkipEmptyParts)) {
-            if (store != u"empty" && store != u"missing")
+        } else if (store == u"overwritten") {
+            data.overwritePages();
+        } else if (store == u"cut short") {
+            data.cutShort();
+        } else if (store == u"cut off mid-save") {
+            data.cutOffMidSave();
+        } else {
+            for (const QString &sql : store.split(u';', Qt::SkipEmptyParts))
                 data.store().exec(sql);
         }
         StoreLock other(path);
         if (condition == u"locked")
             QVERIFY(other.take());
-        QFile stale(other.lockPath()); // as a killed program leaves it: its process has ended
-        if (condition == u"stale" && stale.open(QIODevice::WriteOnly))
-            stale.write("2147483647\nkelvora\n" + QSysInfo::machineHostName().toUtf8() + '\n');
-        stale.close();
+        QFile leftLock(other.lockPath());
+        if (leftLocks().contains(condition)) {
+            QVERIFY(leftLock.open(QIODevice::WriteOnly));
+            leftLock.write(leftLocks()[condition]);
+            leftLock.close();
+        }
         const auto guard = readOnly(condition == u"file" ? path : data.folder(),
                                     condition == u"file" || condition == u"folder");
-        const QByteArray bytes = bytesOf(path);
+        const QByteArray bytes = contentsOf(path);
         const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
         const QStringList listing = QDir(data.folder()).entryList(all);
 
@@ -310,7 +334,8 @@ private slots:
             refusal = error.description();
         }
         const QString told = refusal.isEmpty() ? boxes.texts().join(u'|') : refusal;
-        QVERIFY2(told.contains(text) && refusal.isEmpty() == (opened != u"refused"),
+        QVERIFY2(told.contains(QString(text).replace("STORE", QDir::toNativeSeparators(path)))
+                     && refusal.isEmpty() == (opened != u"refused"),
                  qPrintable(told));
         QCOMPARE(result.has_value(), opened == u"view only" || opened == u"locked");
         if (result) {
@@ -326,11 +351,60 @@ private slots:
             result.reset();
         }
         // The main window's load writes only what is due: here, the mark of an unmarked store.
-        QCOMPARE(bytesOf(path) == bytes, store != unmarked);
+        // What a crash cut off is undone by SQLite itself, back to the last save.
+        const bool cutOff = store == u"cut off mid-save";
+        const QByteArray after = contentsOf(path);
+        QVERIFY(cutOff ? after == saved : (after == bytes) == (store != unmarked));
         // A lock taken over from a crashed program is let go like any other.
+        const bool takenOver = leftLocks().contains(condition) && condition != u"other machine";
         QCOMPARE(QDir(data.folder()).entryList(all),
-                 (condition == u"stale" ? QStringList{DataStore::fileName} : listing));
+                 (takenOver || cutOff ? QStringList{DataStore::fileName} : listing));
     }
+    // The store tool as an installer or an office runs it: a usage error exits 2 with the usage
+    // line, a store that cannot be made 3, each saying why in words; no file is left behind.
+    void newStoreTool_data()
+    {
+        // DIR: a folder of the test's own
+        testsuite::columns<QString, int, QString>("arguments", "exitCode", "err");
+        const auto row = [](const char *name, const char *arguments, int exitCode,
+                            const QString &err) {
+            QTest::newRow(name) << QString::fromLatin1(arguments) << exitCode << err;
+        };
+        const QString usage = QStringLiteral("\nusage: kelvora-newstore [--year YYYY]");
+        row("made", "--year 2026 DIR/Kelvora.db", 0, "");
+        row("unknown option", "--bogus DIR/Kelvora.db", 2, "Unknown option 'bogus'." + usage);
+        row("year without its value", "DIR/Kelvora.db --year", 2,
+            "Missing value after '--year'." + usage);
+        row("year of two digits", "--year 26 DIR/Kelvora.db", 2,
+            "the year must be four digits, such as 2026, not \"26\"" + usage);
+        row("year out of range", "--year 1800 DIR/Kelvora.db", 2,
+            "the year 1800 is out of range: give a year from 2000 to 2099" + usage);
+        row("no store named", "--year 2026", 2, "the store to create is missing" + usage);
+        row("folder not there", "DIR/gone/Kelvora.db", 3,
+            "The data store DIR/gone/Kelvora.db cannot be made: its folder DIR/gone is not "
+            "there.\n");
+    }
+    void newStoreTool()
+    {
+        QFETCH(QString, arguments);
+        QFETCH(int, exitCode);
+        QFETCH(QString, err);
+        QTemporaryDir dir;
+        QProcess tool;
+        tool.start(QStringLiteral(KELVORA_NEWSTORE_PATH),
+                   arguments.replace("DIR", dir.path()).split(u' '));
+        QVERIFY(tool.waitForFinished(60000) && tool.exitStatus() == QProcess::NormalExit);
+        QCOMPARE(tool.exitCode(), exitCode);
+        const QString errors = QString::fromUtf8(tool.readAllStandardError());
+        QVERIFY2(err.isEmpty() ? errors.isEmpty()
+                               : errors.startsWith("kelvora-newstore: "
+                                                   + err.replace("DIR", dir.path())),
+                 qPrintable(errors));
+        const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        QCOMPARE(QDir(dir.path()).entryList(all),
+                 exitCode == 0 ? QStringList{DataStore::fileName} : QStringList());
+    }
+
     void startReadsTheAssessmentPeriod()
     {
         QTemporaryDir dir;

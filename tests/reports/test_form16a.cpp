@@ -1,6 +1,8 @@
 #include "reportsstore.h"
 
 #include "core/formtraits.h"
+#include "core/storeaccess.h"
+#include "core/storeupgrade.h"
 #include "reports/certificatebatch.h"
 #include "reports/form16adocument.h"
 #include "reports/form16aworktables.h"
@@ -48,6 +50,26 @@ const Form16AWorkTables &filledTables()
         return made;
     }();
     return tables;
+}
+
+/// Harms the store as @p harm says ("pages overwritten", "cut short" or "newer version") and
+/// returns the refusal that the front end gives; anything else is left alone.
+QString harmedStore(const TestStore &store, const QString &harm)
+{
+    const QString path = store.store().path();
+    const int newer = storeupgrade::currentVersion + 1;
+    if (harm == u"pages overwritten")
+        store.overwritePages();
+    else if (harm == u"cut short")
+        store.cutShort();
+    else if (harm == u"newer version")
+        store.store().exec(QStringLiteral("PRAGMA user_version = %1").arg(newer));
+    else
+        return {};
+    if (harm != u"newer version")
+        return QStringLiteral("kelvora-certificates: ") + storeaccess::damagedText.arg(path);
+    return QStringLiteral("kelvora-certificates: ")
+           + storeaccess::newerText.arg(path).arg(newer).arg(storeupgrade::currentVersion);
 }
 
 } // namespace
@@ -217,6 +239,11 @@ void TestForm16A::frontEnd_data()
                                    << QStringList();
     QTest::newRow("output is a file") << company1 + QStringList{"--output", "FILE"} << 3
                                       << QStringList();
+    // A store harmed as harmedStore() says: refused before anything is written.
+    for (const char *harm : {"pages overwritten", "cut short", "newer version"}) {
+        QTest::addRow("store %s", harm)
+            << company1 + QStringList{"--store", harm} << 3 << QStringList();
+    }
 }
 
 void TestForm16A::frontEnd()
@@ -229,6 +256,12 @@ void TestForm16A::frontEnd()
     QFile file(folder.filePath("a file"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     arguments.replaceInStrings(QRegularExpression("^FILE$"), file.fileName());
+    const TestStore harmed(reportsStore());
+    const QString harm = arguments.value(arguments.lastIndexOf("--store") + 1);
+    const QString refusal = harmedStore(harmed, harm);
+    const QByteArray harmedBytes = contentsOf(harmed.store().path());
+    if (!refusal.isEmpty())
+        arguments.replaceInStrings(QRegularExpression("^" + harm + "$"), harmed.store().path());
     // The last of an option given twice counts: the cases' own store and folder win.
     arguments = QStringList{"kelvora-certificates", "--store", reportsStore().store().path(),
                             "--output", output}
@@ -253,6 +286,10 @@ void TestForm16A::frontEnd()
                                  .arg(files.size() == 1 ? "" : "s")));
     } else {
         QVERIFY(options ? !err.isEmpty() : !error.isEmpty());
+    }
+    if (!refusal.isEmpty()) {
+        QCOMPARE(err, refusal + u'\n');
+        QVERIFY(contentsOf(harmed.store().path()) == harmedBytes);
     }
 }
 

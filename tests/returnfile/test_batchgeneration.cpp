@@ -1,4 +1,6 @@
+#include "core/storeaccess.h"
 #include "core/storelock.h"
+#include "core/storeupgrade.h"
 #include "generationstore.h"
 #include "support/testsuite.h"
 
@@ -58,16 +60,20 @@ private slots:
 
     void runs_data()
     {
-        // out: lines joined by "|", DIR for the store's folder; err: a part of the error stream
-        testsuite::columns<QString, int, QString, QString>("arguments", "exitCode", "out", "err");
+        // out: lines joined by "|", DIR for the store's folder; err: a part of the error stream;
+        // lock: one of leftLocks(), beside the store before the run
+        testsuite::columns<QString, int, QString, QString, QString>("arguments", "exitCode",
+                                                                   "out", "err", "lock");
         const QString written = "DIR/eReturns/KAV26QQ2.txt\tchallans 2\tdeductee rows 7\t"
                                 "deposited 1003.00";
         const QString refused = "refused\tNILGIRI TEA CO (company 12, TAN CHEN05678E)\tYou have "
                                 "specified to enter 3 deductee record(s), but have entered only "
                                 "1 record(s).";
         const auto row = [](const char *name, const char *arguments, int exitCode,
-                            const QString &out, const QString &err = {}) {
-            QTest::newRow(name) << QString::fromLatin1(arguments) << exitCode << out << err;
+                            const QString &out, const QString &err = {},
+                            const QString &lock = {}) {
+            QTest::newRow(name) << QString::fromLatin1(arguments) << exitCode << out << err
+                                << lock;
         };
         row("company by TAN", "--form 26q --quarter q2 --company blrk01234e", 0, written);
         row("output chosen", "--form 26Q --quarter Q2 --company 11 --output DIR/k2.txt", 0,
@@ -87,6 +93,10 @@ private slots:
             "no company with the id 99");
         row("TAN of two companies", "--form 26Q --quarter Q2 --company TANAPPLIED", 2, "",
             "belongs to the companies 13, 14");
+        const char *const oneFile = "--form 26Q --quarter Q2 --company 11 --wait 0";
+        row("lock of a crashed program", oneFile, 0, written, "", "crashed");
+        row("empty lock of a power cut", oneFile, 0, written, "", "power cut (empty)");
+        row("garbled lock of a power cut", oneFile, 0, written, "", "power cut (garbled)");
     }
     void runs()
     {
@@ -94,7 +104,14 @@ private slots:
         QFETCH(int, exitCode);
         QFETCH(QString, out);
         QFETCH(QString, err);
+        QFETCH(QString, lock);
         QFile::remove(m_data.folder() + "/eReturns/KAV26QQ2.txt");
+        QFile leftLock(m_data.store().path() + ".lock");
+        if (!lock.isEmpty()) {
+            QVERIFY(leftLock.open(QIODevice::WriteOnly));
+            leftLock.write(leftLocks()[lock]);
+            leftLock.close();
+        }
         const int logRows = m_data.count("FileGenerationLog");
         const auto [code, lines, errors] =
             run(QString(arguments).replace("DIR", m_data.folder()), m_data.store().path());
@@ -108,6 +125,7 @@ private slots:
         QCOMPARE(m_data.count("FileGenerationLog"), logRows + written);
         QCOMPARE(QFile::exists(m_data.folder() + "/eReturns/KAV26QQ2.txt"),
                  out.startsWith("DIR/eReturns"));
+        QVERIFY(!leftLock.exists());
     }
 
     void oneRunLogsAsTheScreenDoes()
@@ -163,6 +181,15 @@ private slots:
         QTest::newRow("empty store") << "empty.db" << "KAV" << 3 << "is not a Kelvora data store";
         QTest::newRow("store in use") << "in use" << "KAV" << 3
                                       << "is in use by " + QCoreApplication::applicationName();
+        // STORE: the store's path
+        const QString damaged = storeaccess::damagedText.arg("STORE");
+        QTest::newRow("store with pages overwritten") << "overwritten" << "KAV" << 3 << damaged;
+        QTest::newRow("store cut short") << "cut short" << "KAV" << 3 << damaged;
+        QTest::newRow("store of a newer version")
+            << "newer" << "KAV" << 3
+            << storeaccess::newerText.arg("STORE")
+                   .arg(storeupgrade::currentVersion + 1)
+                   .arg(storeupgrade::currentVersion);
     }
     void badTargets()
     {
@@ -197,6 +224,13 @@ private slots:
             QSKIP("a full disk needs a small file system, which only root may mount");
         else if (target == u"in use")
             QVERIFY(lock.take());
+        else if (target == u"overwritten")
+            data.overwritePages();
+        else if (target == u"cut short")
+            data.cutShort();
+        else if (target == u"newer")
+            data.store().exec(QStringLiteral("PRAGMA user_version = %1")
+                                  .arg(storeupgrade::currentVersion + 1));
         QFile filler(target == u"full" ? targets.filePath("filler") : store);
         if (target == u"full" || target == u"empty.db")
             QVERIFY(filler.open(QIODevice::WriteOnly));
@@ -209,17 +243,20 @@ private slots:
                    + QDir(data.folder() + "/eReturns").entryList(all);
         };
         const QStringList before = listing();
+        const QByteArray storeBytes = contentsOf(store);
         const bool toOutput = QStringList{"device", "fifo", "folder", "full"}.contains(target);
 
         const Run run = this->run("--form 26Q --quarter Q2 --company 11 --wait 0"
                                       + (toOutput ? " --output " + output : QString()),
                                   store);
         QCOMPARE(run.exitCode, exitCode);
-        QVERIFY2(run.out.isEmpty() && run.err.contains(message)
+        QVERIFY2(run.out.isEmpty() && run.err.contains(QString(message).replace("STORE", store))
                      && (!toOutput || run.err.contains(output)),
                  qPrintable(run.err));
-        // Neither a plain file put in place of another kind, nor a file anywhere else.
+        // Neither a plain file put in place of another kind, nor a file anywhere else; a
+        // refused store or Statement is left as it was.
         QCOMPARE(listing(), before);
+        QVERIFY(toOutput || contentsOf(store) == storeBytes);
         QVERIFY(target == u"full" || !QFileInfo(output).isFile());
     }
 

@@ -6,12 +6,6 @@
 
 namespace {
 
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// The lines that differ, each with the number of its first differing field; a line without
 /// its CR shows "<no CR>" at its end.
 QString differences(const QByteArray &expected, const QByteArray &actual)

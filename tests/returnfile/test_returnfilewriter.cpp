@@ -15,12 +15,6 @@ namespace {
 
 const QByteArray earlierReturn = "1^FH^NS1^R^01072026^1^D^MUMA12345B^1^Kelvora^^^^^^^^\r\n";
 
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 ReturnFileSummary write(const TestStore &data, const QString &fixture, const QString &path)
 {
     return writeReturnFile(data.store(), formTraits(statementfixtures::named(fixture).form),

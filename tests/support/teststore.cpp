@@ -4,14 +4,12 @@
 #include "core/storeupgrade.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QSqlQuery>
+#include <QSysInfo>
+#include <QtEndian>
 
 namespace {
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // Made and upgraded once per program; every store of the program starts as a copy of it.
 const QByteArray &upgradedStore()
@@ -21,7 +19,7 @@ const QByteArray &upgradedStore()
         const QString path = dir.filePath(DataStore::fileName);
         freshstore::create(path, 2026);
         storeupgrade::run(DataStore(path));
-        return bytesOf(path);
+        return contentsOf(path);
     }();
     return bytes;
 }
@@ -35,7 +33,7 @@ TestStore::TestStore()
 
 TestStore::TestStore(const TestStore &source)
 {
-    open(bytesOf(source.store().path()));
+    open(contentsOf(source.store().path()));
 }
 
 void TestStore::open(const QByteArray &bytes)
@@ -93,4 +91,64 @@ TestStore::Row merged(TestStore::Row base, const TestStore::Row &changes)
             base.append({column, value});
     }
     return base;
+}
+
+void TestStore::overwritePages() const
+{
+    QFile file(m_store->path());
+    if (!file.open(QIODevice::ReadWrite))
+        qFatal("the test store could not be opened");
+    const quint16 pageSize = qFromBigEndian<quint16>(file.read(18).constData() + 16);
+    QSqlQuery roots = m_store->exec(
+        QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name IN "
+                       "('mstState', 'mstSections26', 'mstSections27')"));
+    while (roots.next()) {
+        file.seek((roots.value(0).toLongLong() - 1) * pageSize);
+        file.write(QByteArray(pageSize, '\xa5'));
+    }
+}
+
+void TestStore::cutShort() const
+{
+    if (!QFile::resize(m_store->path(), QFileInfo(m_store->path()).size() / 2))
+        qFatal("the test store could not be cut short");
+}
+
+void TestStore::cutOffMidSave() const
+{
+    const QString path = m_store->path();
+    const QTemporaryDir dir;
+    const QString saving = dir.filePath(DataStore::fileName);
+    if (!QFile::copy(path, saving))
+        qFatal("the test store could not be copied");
+    const DataStore store(saving);
+    // A cache of one page makes SQLite write changed pages into the file before the commit.
+    store.exec(QStringLiteral("PRAGMA cache_size = 1"));
+    store.exec(QStringLiteral("BEGIN"));
+    store.exec(QStringLiteral("UPDATE mstState SET StateName = 'CUT OFF'"));
+    store.exec(QStringLiteral("CREATE TABLE spill AS SELECT randomblob(3000) FROM mstState AS a, "
+                              "mstState AS b"));
+    for (const QString &suffix : {QString(), QStringLiteral("-journal")}) {
+        QFile file(path + suffix);
+        const QByteArray bytes = contentsOf(saving + suffix);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("the store cut off in the middle of a save could not be written");
+    }
+    store.exec(QStringLiteral("ROLLBACK"));
+}
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+const QMap<QString, QByteArray> &leftLocks()
+{
+    static const QMap<QString, QByteArray> locks = {
+        {"crashed", "2147483647\nkelvora\n" + QSysInfo::machineHostName().toUtf8() + '\n'},
+        {"power cut (empty)", ""},
+        {"power cut (garbled)", QByteArray(24, '\0')},
+        {"other machine", "4242\nkelvora\nOTHER-PC\n"}};
+    return locks;
 }

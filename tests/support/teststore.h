@@ -3,6 +3,7 @@
 #include "core/datastore.h"
 
 #include <QList>
+#include <QMap>
 #include <QPair>
 #include <QTemporaryDir>
 #include <memory>
@@ -30,6 +31,15 @@ public:
     QString text(const QString &sql, const QVariantList &values = {}) const;
     int count(const QString &table) const;
 
+    /// Writes garbage over the pages of three reference lists that neither a start nor a batch
+    /// reads, as a failing disk or a stray program leaves a store.
+    void overwritePages() const;
+    /// Cuts the file to half its length, as a copy that stopped part-way leaves it.
+    void cutShort() const;
+    /// Leaves the store as a program killed in the middle of a save leaves it: some changed
+    /// pages written, and beside it the journal of what they held before.
+    void cutOffMidSave() const;
+
 private:
     void open(const QByteArray &bytes);
 
@@ -39,3 +49,11 @@ private:
 
 /// @p base with the values of @p changes put in (columns matched without regard to case).
 TestStore::Row merged(TestStore::Row base, const TestStore::Row &changes);
+
+/// Lock files as programs that ended without letting go leave them beside a store, by what left
+/// them: "crashed" names a process of this machine that has ended, "power cut (empty)" and
+/// "power cut (garbled)" name none, "other machine" names a process on another machine.
+const QMap<QString, QByteArray> &leftLocks();
+
+/// The bytes of the file, empty when it cannot be read.
+QByteArray contentsOf(const QString &path);
