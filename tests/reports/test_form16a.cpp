@@ -12,6 +12,8 @@
 #include <QDir>
 #include <QTextStream>
 #include <QtTest>
+#include <array>
+#include <utility>
 
 namespace {
 
@@ -77,9 +79,27 @@ void TestForm16A::inWords_data()
     QTest::newRow("paise alone") << 0.50 << " and Fifty paise only.";
     QTest::newRow("zero") << 0.0 << "Zero only";
     QTest::newRow("99") << 99.0 << "Ninety Nine  only.";
-    QTest::newRow("10") << 10.0 << "Ten  only.";
-    QTest::newRow("20") << 20.0 << "Twenty  only.";
-    QTest::newRow("11") << 11.0 << "Eleven  only.";
+    // Every word of the units, the teens and the tens, each alone.
+    const std::array<const char *, 9> units = {"One", "Two", "Three", "Four", "Five", "Six",
+                                               "Seven", "Eight", "Nine"};
+    const std::array<const char *, 9> teens = {"Eleven", "Twelve", "Thirteen", "Fourteen",
+                                               "Fifteen", "Sixteen", "Seventeen", "Eighteen",
+                                               "Nineteen"};
+    const std::array<const char *, 9> tens = {"Ten", "Twenty", "Thirty", "Forty", "Fifty",
+                                              "Sixty", "Seventy", "Eighty", "Ninety"};
+    for (int digit = 1; digit <= 9; ++digit) {
+        for (const auto &[number, word] : {std::pair(digit, units[digit - 1]),
+                                           std::pair(10 + digit, teens[digit - 1]),
+                                           std::pair(10 * digit, tens[digit - 1])})
+            QTest::addRow("%d", number) << double(number) << QString::fromLatin1(word) + "  only.";
+    }
+    QTest::newRow("teens in every group")
+        << 131415016.17
+        << "Thirteen Crores Fourteen Lakhs Fifteen Thousand Sixteen  and Seventeen paise only.";
+    QTest::newRow("other teens in every group")
+        << 181912319.18
+        << "Eighteen Crores Nineteen Lakhs Twelve Thousand Three Hundred Nineteen  and Eighteen "
+           "paise only.";
     QTest::newRow("nine digits")
         << 999999999.99
         << "Ninety Nine Crores Ninety Nine Lakhs Ninety Nine Thousand Nine Hundred Ninety Nine  "
