@@ -112,8 +112,8 @@ private slots:
         QCOMPARE(session.printMode, c.printModeAfter);
         // Group and quarter are written before anything can stop the selection.
         QCOMPARE(session.curGroupId, c.group.isEmpty() ? 0 : 1);
-        QCOMPARE(session.curQuarter,
-                 quarter::sessionCode(quarter::forIndex(c.quarterIndex, 2026).code));
+        const QStringList codes = {"Q1", "Q2", "Q3", "Q4"};
+        QCOMPARE(session.curQuarter, codes.value(c.quarterIndex, QStringLiteral("  ")));
         if (!c.group.isEmpty())
             QCOMPARE(outcome.quarterText, QStringLiteral("Chosen quarter"));
         if (c.curCompId != untouched && !c.formType.startsWith(u"Form"))

@@ -1,8 +1,42 @@
 #include "core/fieldrules.h"
+#include "core/quarter.h"
 #include "support/testsuite.h"
 
+#include <optional>
+#include <tuple>
 
 using namespace fieldrules;
+
+namespace {
+
+QString dayText(QDate date)
+{
+    return date.toString(QStringLiteral("dd/MM/yyyy"));
+}
+
+/// A date check's outcome as one line of text, so that a table of them shows what differs.
+QString described(const std::optional<DateFailure> &failure)
+{
+    if (!failure)
+        return QStringLiteral("accepted");
+    const Message &box = failure->failure.message;
+    const bool criticalOk =
+        box.icon == MessageIcon::Critical && box.buttons == MessageButtons::Ok;
+    return QStringLiteral("%1 | %2 | %3 | %4 | set back to %5")
+        .arg(box.text, box.title, criticalOk ? "critical" : "another box", failure->failure.field,
+             dayText(failure->correctedDate));
+}
+
+/// The refusal expected of a date check; none when there is no text.
+std::optional<DateFailure> refusal(const QString &text, QDate corrected, const QString &field)
+{
+    if (text.isEmpty())
+        return std::nullopt;
+    return DateFailure{{{text, appTitle, MessageIcon::Critical, MessageButtons::Ok}, field},
+                       corrected};
+}
+
+} // namespace
 
 class TestFieldRules : public QObject
 {
@@ -104,43 +138,67 @@ private slots:
                          appTitle));
     }
 
-    void depositDate_data()
+    // The quarters of the year that starts in April 2026 as the quarter routine gives them, and
+    // the date checks one day inside and one day outside each bound they set.
+    void quarterEdges_data()
     {
-        testsuite::columns<QDate, QDate, QString, QDate>("date", "challanDate", "text",
-                                                         "corrected");
-        // The second quarter: 01/07/2024 to 30/09/2024.
-        const QDate challan(2024, 8, 20);
+        testsuite::columns<int, QString, QString, QString>("index", "code", "first", "last");
+        QTest::newRow("Q1") << 0 << "Q1" << "01/04/2026" << "30/06/2026";
+        QTest::newRow("Q2") << 1 << "Q2" << "01/07/2026" << "30/09/2026";
+        QTest::newRow("Q3") << 2 << "Q3" << "01/10/2026" << "31/12/2026";
+        QTest::newRow("Q4") << 3 << "Q4" << "01/01/2027" << "31/03/2027";
+    }
+    void quarterEdges()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, code);
+        QFETCH(QString, first);
+        QFETCH(QString, last);
+        const quarter::Period period = quarter::forIndex(index, 2026);
+        QCOMPARE(QStringList({period.code, period.fromDate, period.toDate}),
+                 QStringList({code, first, last}));
+
+        // The checks take their bounds from the session's texts, as the screens do.
+        const QDate from = sessionDate(period.fromDate);
+        const QDate to = sessionDate(period.toDate);
+        const QDate firstDay = sessionDate(first);
+        const QDate lastDay = sessionDate(last);
+        // The tax of a quarter's last month is deposited in the month after it.
+        const QDate laterChallan = lastDay.addDays(7);
+        const QDate midQuarter = firstDay.addDays(45);
+        const QString outside = QStringLiteral("Date should be within the Quarter Date");
         const QString afterChallan =
             QStringLiteral("Date should not be greater than the Challan Date");
-        const QString outside = QStringLiteral("Date should be within the Quarter Date");
-        QTest::newRow("challan date") << challan << challan << "" << QDate();
-        QTest::newRow("first day") << QDate(2024, 7, 1) << challan << "" << QDate();
-        QTest::newRow("last day") << QDate(2024, 9, 30) << QDate(2024, 10, 7) << "" << QDate();
-        QTest::newRow("after challan and quarter")
-            << QDate(2024, 10, 2) << challan << afterChallan << challan;
-        QTest::newRow("before quarter") << QDate(2024, 6, 30) << challan << outside
-                                        << QDate(2024, 7, 1);
-        QTest::newRow("after quarter") << QDate(2024, 10, 1) << QDate(2024, 10, 7) << outside
-                                       << QDate(2024, 9, 30);
-    }
-    void depositDate()
-    {
-        QFETCH(QDate, date);
-        QFETCH(QDate, challanDate);
-        QFETCH(QString, text);
-        QFETCH(QDate, corrected);
-        const QDate from = sessionDate(QStringLiteral("1/7/2024"));
-        const QDate to = sessionDate(QStringLiteral("30/09/2024"));
-        const auto failure = checkDepositDate(date, challanDate, from, to, "dtp105");
-        QCOMPARE(failure.has_value(), !text.isEmpty());
-        if (failure) {
-            QCOMPARE(*failure, (DateFailure{{{text, appTitle, MessageIcon::Critical}, "dtp105"},
-                                            corrected}));
+        const QString beforeStart =
+            QStringLiteral("Date should not be less than the Quarter Start Date");
+        const QList<std::tuple<QDate, QDate, QString, QDate>> deposits = {
+            {firstDay, laterChallan, {}, {}},
+            {firstDay.addDays(-1), laterChallan, outside, firstDay},
+            {lastDay, laterChallan, {}, {}},
+            {lastDay.addDays(1), laterChallan, outside, lastDay},
+            {midQuarter, midQuarter, {}, {}},
+            {midQuarter.addDays(1), midQuarter, afterChallan, midQuarter},
+            // Past the challan and the quarter: the challan's refusal comes first.
+            {laterChallan.addDays(1), laterChallan, afterChallan, laterChallan},
+        };
+        QStringList found;
+        QStringList expected;
+        for (const auto &[date, challan, text, corrected] : deposits) {
+            const QString deposit = QStringLiteral("deposit %1: ").arg(dayText(date));
+            found << deposit + described(checkDepositDate(date, challan, from, to, "dtp105"));
+            expected << deposit + described(refusal(text, corrected, "dtp105"));
         }
         // The challan's own date has only the lower bound.
-        QCOMPARE(checkNotBeforeQuarter(date, from, "dtp119").has_value(), date < from);
+        const QList<std::pair<QDate, QString>> challanDates = {
+            {firstDay, {}}, {firstDay.addDays(-1), beforeStart}, {lastDay.addDays(1), {}}};
+        for (const auto &[date, text] : challanDates) {
+            const QString challan = QStringLiteral("challan %1: ").arg(dayText(date));
+            found << challan + described(checkNotBeforeQuarter(date, from, "dtp119"));
+            expected << challan + described(refusal(text, firstDay, "dtp119"));
+        }
+        QCOMPARE(found, expected);
         // No quarter chosen: the bound is not checked rather than refusing every date.
-        QVERIFY(!checkNotBeforeQuarter(date, sessionDate(QString()), "dtp119"));
+        QVERIFY(!checkNotBeforeQuarter(firstDay.addDays(-1), sessionDate(QString()), "dtp119"));
     }
 };
 

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QTextStream>
 #include <QtTest>
+#include <utility>
 
 namespace {
 
@@ -99,9 +100,23 @@ void TestForm16A::inWords_data()
     QTest::newRow("paise alone") << 0.50 << " and Fifty paise only.";
     QTest::newRow("zero") << 0.0 << "Zero only";
     QTest::newRow("99") << 99.0 << "Ninety Nine  only.";
-    QTest::newRow("10") << 10.0 << "Ten  only.";
-    QTest::newRow("20") << 20.0 << "Twenty  only.";
-    QTest::newRow("11") << 11.0 << "Eleven  only.";
+    // Every word of the units, the teens and the tens, each alone.
+    const QList<std::pair<int, const char *>> words = {
+        {1, "One"}, {2, "Two"}, {3, "Three"}, {4, "Four"}, {5, "Five"},
+        {6, "Six"}, {7, "Seven"}, {8, "Eight"}, {9, "Nine"},
+        {11, "Eleven"}, {12, "Twelve"}, {13, "Thirteen"}, {14, "Fourteen"}, {15, "Fifteen"},
+        {16, "Sixteen"}, {17, "Seventeen"}, {18, "Eighteen"}, {19, "Nineteen"},
+        {10, "Ten"}, {20, "Twenty"}, {30, "Thirty"}, {40, "Forty"}, {50, "Fifty"},
+        {60, "Sixty"}, {70, "Seventy"}, {80, "Eighty"}, {90, "Ninety"}};
+    for (const auto &[number, word] : words)
+        QTest::addRow("%d", number) << double(number) << QString::fromLatin1(word) + "  only.";
+    QTest::newRow("teens in every group")
+        << 131415016.17
+        << "Thirteen Crores Fourteen Lakhs Fifteen Thousand Sixteen  and Seventeen paise only.";
+    QTest::newRow("other teens in every group")
+        << 181912319.18
+        << "Eighteen Crores Nineteen Lakhs Twelve Thousand Three Hundred Nineteen  and Eighteen "
+           "paise only.";
     QTest::newRow("nine digits")
         << 999999999.99
         << "Ninety Nine Crores Ninety Nine Lakhs Ninety Nine Thousand Nine Hundred Ninety Nine  "

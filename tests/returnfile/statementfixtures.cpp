@@ -224,12 +224,13 @@ void build24QSalary(const TestStore &store)
                            {{"EmpName", "NEHA SHAH"}, {"Pan", "PANAPPLIED"}, {"PanRef", "APP0001"},
                             {"331", 7}, {"FromDate", "2026-06-01"}, {"332", 300000},
                             {"335", 300000}}));
+    // Deducted in full: a shortfall of nothing beside the tax deducted.
     store.insert("TranSalaryE24",
                  salaryRow(2, 2,
                            {{"EmpName", "MOHAN DAS"}, {"Pan", "BBBPM2345D"}, {"331", 1},
                             {"332", 500000}, {"335", 500000}, {"336Sec16Gross", 497500},
                             {"339", 497500}, {"344", 497500}, {"345", 35000}, {"350", 35000},
-                            {"351", 1400}, {"352", 36400}, {"355", 36400}}));
+                            {"351", 1400}, {"352", 36400}, {"355", 0}}));
     store.insert("TranSalaryE24",
                  salaryRow(1, 1,
                            {{"EmpName", "LATA IYER"}, {"Pan", "AAAPL1234C"}, {"331", 0},

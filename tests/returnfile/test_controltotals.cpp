@@ -43,8 +43,9 @@ private slots:
         const QList<AnnexureListRow> typed = {{"1,000", "12abc", "", " 5 0", "101.5"},
                                               {"0.20", "", "x", "", "5"}};
         const QList<AnnexureListRow> tenths(1000, same("0.10"));
-        const QList<AnnexureListRow> pastPaise = {{"0.255", "0.005", "", "", ""},
-                                                  {"0.245", "0.005", "", "", ""}};
+        // Rounded to the paisa row by row, each of these would sum to another figure.
+        const QList<AnnexureListRow> pastPaise = {{"0.255", "0.005", "0.004", "1.333", "0.125"},
+                                                  {"0.245", "0.005", "0.004", "1.333", "0.125"}};
         const QList<AnnexureListRow> past32Bits = {same("2147483647"), same("0.5")};
         const auto all = [](const char *sum) { return QStringList(5, QLatin1String(sum)); };
         QTest::newRow("24Q rows") << FormKind::Form24Q << twice104 << all("20");
@@ -57,7 +58,8 @@ private slots:
                                    << QStringList{"1", "12", "0", "50", "107"};
         QTest::newRow("26Q a thousand tenths") << FormKind::Form26Q << tenths << all("100");
         QTest::newRow("27Q past the paise") << FormKind::Form27Q << pastPaise
-                                            << QStringList{"0.5", "0.01", "0", "0", "0"};
+                                            << QStringList{"0.5", "0.01", "0.008", "2.666",
+                                                           "0.25"};
         QTest::newRow("24Q past 32 bits") << FormKind::Form24Q << past32Bits
                                           << QStringList{"Overflow"};
         QTest::newRow("24Q no rows") << FormKind::Form24Q << QList<AnnexureListRow>() << all("0");

@@ -190,6 +190,27 @@ private slots:
         }
     }
 
+    // The salary rows' section 16 gross is summed as stored and rounded once, half to even:
+    // rounded to the paisa row by row, these would give the other whole rupee.
+    void salaryGrossTotal()
+    {
+        TestStore data;
+        statementfixtures::named("24q_salary").build(data);
+        const QString path = data.folder() + "/ACM24QQ4.txt";
+        // Beside the 577,500 of the first row, the other three rows of the Statement.
+        const QList<std::pair<QVariantList, QByteArray>> grosses = {
+            {{497500.004, 0.004, 250000.494}, "1325001.00"},
+            {{497500.006, 0.006, 250000.486}, "1325000.00"}};
+        for (const auto &[gross, written] : grosses) {
+            data.store().exec("UPDATE TranSalaryE24 SET \"336Sec16Gross\" = CASE SalaryId "
+                              "WHEN 2 THEN ? WHEN 3 THEN ? ELSE ? END "
+                              "WHERE BasicIfoID = 1 AND SalaryId > 1",
+                              gross);
+            write(data, "24q_salary", path);
+            QCOMPARE(fieldsOf(path, 2).value(49), written);
+        }
+    }
+
     void recordLine()
     {
         RecordLine line(12, QStringLiteral("DD"));

@@ -86,7 +86,8 @@ private slots:
     void whatARowLeavesBehind_data();
     void whatARowLeavesBehind();
     void automaticTransfer();
-    void deleteThatWouldOverflowKeepsTheRow();
+    void overflowKeepsTheRows_data();
+    void overflowKeepsTheRows();
 };
 
 void TestAnnexureSheet::taxByAmountOrRate_data()
@@ -320,19 +321,36 @@ void TestAnnexureSheet::automaticTransfer()
 }
 
 QTEST_GUILESS_MAIN(TestAnnexureSheet)
-void TestAnnexureSheet::deleteThatWouldOverflowKeepsTheRow()
+void TestAnnexureSheet::overflowKeepsTheRows_data()
 {
-    // 24Q's totals are 32-bit whole rupees: rows left past that range keep the row deleted.
+    QTest::addColumn<bool>("deleting");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("saving a row")
+        << false << AnnexureSheet::cannotSaveText + u'\n' + numbers::overflowMessage;
+    QTest::newRow("deleting a row") << true << QString(numbers::overflowMessage);
+}
+
+void TestAnnexureSheet::overflowKeepsTheRows()
+{
+    // 24Q's totals are 32-bit whole rupees: a save or a delete that would carry them past that
+    // range is refused, and the rows and the challan's totals stay as they were.
+    QFETCH(bool, deleting);
+    QFETCH(QString, text);
     AnnexureFixture f(FormKind::Form24Q);
     for (int row = 0; row < 3; ++row)
         QVERIFY(f.enter("100"));
     f.data.store().exec("UPDATE " + f.form.annexureTable + " SET Surcharge = 1500000000");
     f.rows.open();
-    f.boxes.answerNext(Answer::Yes);
-    f.rows.deleteRow(0);
-    QCOMPARE(f.boxes.shown.last().text, QString(numbers::overflowMessage));
+    if (deleting) {
+        f.boxes.answerNext(Answer::Yes);
+        f.rows.deleteRow(0);
+    } else {
+        QVERIFY(!f.enter("100"));
+    }
+    QCOMPARE(f.boxes.shown.last().text, text);
     QCOMPARE(f.data.count(f.form.annexureTable), 3);
     QCOMPARE(f.rows.rows().rowCount(), 3);
+    QCOMPARE(f.value("TotTax || ' ' || TotSurcharge"), "300 0");
 }
 
 #include "test_annexuresheet.moc"

@@ -280,13 +280,18 @@ void TestSalarySheet::savedLoadedAndChanged()
     QVERIFY(f.salary.gridOk(SectionKind::Section16));
     QVERIFY(f.enter(SectionKind::Section88, "PPF", {"1000", "1000", "800"}));
     QVERIFY(f.salary.gridOk(SectionKind::Section88));
-    f.salary.entry().perk[7] = "1500";
+    // Unfurnished 4,000 and furniture costing 20,000 (worth 2,000) with 5,000, less a rent
+    // of 3,000: a perquisite of 8,000.
+    SalaryEntry &perks = f.salary.entry();
+    for (const auto &[index, text] : boxTexts("0=4000;1=5000;2=20000;5=3000;7=1500"))
+        perks.perk[index] = text;
+    f.salary.perkChanged();
     f.salary.perkOk();
     QVERIFY(f.salary.save());
     // Whole rupees in the store, half to even; the unstored boxes stay out.
     QCOMPARE(f.stored("SrlNo, EmpID, EmpName, \"331\", \"332\", \"333\", \"335\", "
-                      "\"336Sec16Gross\", \"362\", FromDate"),
-             QStringList{"1/103/NEHA SHAH/2/300000/2500/-1000/310000/1500/2026-06-01"});
+                      "\"336Sec16Gross\", \"360\", \"361\", \"362\", FromDate"),
+             QStringList{"1/103/NEHA SHAH/2/300000/2500/-1000/318000/3000/8000/1500/2026-06-01"});
     QCOMPARE(f.data.text("SELECT group_concat(SectionId || '=' || TotalDeduction) "
                          "FROM TranSec16E24 WHERE SalaryId = 1 AND Empid = 103"),
              "16(iii)=2500");
@@ -306,7 +311,10 @@ void TestSalarySheet::savedLoadedAndChanged()
     const SalaryEntry &loaded = f.salary.entry();
     QCOMPARE(loaded.box(206) + "/" + loaded.box(207) + "/" + loaded.box(209) + "/"
                  + loaded.box(220) + "/" + loaded.box(213),
-             "12000.00/1500.00/313500.00/800.00/310000.00");
+             "12000.00/9500.00/321500.00/800.00/318000.00");
+    // The unfurnished perquisite, never stored, comes back from the value with the rent.
+    QCOMPARE(QStringList(loaded.perk.begin(), loaded.perk.begin() + 7).join(u'/'),
+             "4000.00/5000.00/20000.00/2000.00/7000.00/3000.00/8000.00");
     QCOMPARE(f.salary.grid(SectionKind::Section88).deductionOf("PPF"), Money::fromRupees(800));
 
     // Saved again, the row is updated and its sections rewritten from the grids.
