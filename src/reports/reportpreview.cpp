@@ -135,7 +135,10 @@ ReportPreview::ReportPreview(std::shared_ptr<const Report> report, MessageBoxes 
 
     m_zoom->setCurrentIndex(startZoom);
     zoomChosen(startZoom);
-    resize(820, 640);
+    // The page is read at 100% without scrolling sideways where the main window has the room;
+    // every viewer stands at one place, so the eye finds it where it was last time.
+    resize(sizeHint());
+    screenroutines::setPlacement(this, screenroutines::Placement::TopLeft);
 }
 
 ReportPreview::~ReportPreview() = default;
@@ -146,7 +149,7 @@ ReportPreview *ReportPreview::open(QWidget *beside, std::shared_ptr<const Report
     auto *preview = new ReportPreview(std::move(report), boxes, name);
     for (QWidget *widget = beside; widget; widget = widget->parentWidget()) {
         if (auto *frame = qobject_cast<QMdiSubWindow *>(widget); frame && frame->mdiArea()) {
-            screenroutines::showInArea(frame->mdiArea(), preview);
+            screenroutines::showInArea(frame->mdiArea(), preview, frame);
             return preview;
         }
     }

@@ -11,6 +11,7 @@
 #include "support/scriptedmessageboxes.h"
 #include "support/testsuite.h"
 
+#include <QAbstractScrollArea>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,6 +22,7 @@
 #include <QMdiSubWindow>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTreeWidget>
 #include <QtTest>
 
@@ -83,6 +85,8 @@ private slots:
     void statementPrintouts();
     void form16AScreen();
     void olderCertificateScreen();
+    void closingReturnsToTheOpener_data();
+    void closingReturnsToTheOpener();
 };
 
 void TestReportScreens::menuReportsSaveTheStoreAsPdf_data()
@@ -247,6 +251,7 @@ void TestReportScreens::statementPrintouts()
     QFETCH(QString, button);
     QFETCH(QString, viewer);
     Window main(reportsStore());
+    main.window.resize(1366, 700); // the office laptop's display
     QWidget *screen = main.select("mnuPrintForm26", company, "FrmReport");
     QVERIFY(screen);
     QCOMPARE(screen->findChild<QLineEdit *>("txtCompName")->text(), company);
@@ -260,6 +265,12 @@ void TestReportScreens::statementPrintouts()
     ReportPreview *preview = main.preview(viewer);
     QVERIFY(preview);
     QVERIFY(preview->report().text().contains("ZETA TRADERS"));
+    // At 100% the whole width of the page, landscape or upright, is in sight.
+    QCOMPARE(preview->findChild<QComboBox *>("cmbZoom")->currentText(), "100%");
+    auto *pages = preview->findChild<QAbstractScrollArea *>("crViewer");
+    QCOMPARE(pages->horizontalScrollBar()->maximum(), 0);
+    QVERIFY(main.window.mdiArea()->viewport()->rect().contains(
+        preview->parentWidget()->geometry()));
 }
 
 void TestReportScreens::form16AScreen()
@@ -311,6 +322,42 @@ void TestReportScreens::olderCertificateScreen()
     QVERIFY(preview);
     // The row keys 1 to 3 of every 26Q Statement, as this path has always read them.
     QCOMPARE(preview->report().text().count("FORM NO. 16A"), 7);
+}
+
+// The window that a child opened from (or the one in front when the menu opened it) comes to
+// the front when the child closes, although another screen was opened before it.
+void TestReportScreens::closingReturnsToTheOpener_data()
+{
+    QTest::addColumn<QString>("child");
+    QTest::newRow("report viewer") << "crChallan26";
+    QTest::newRow("show forms") << "frmShowForms";
+    QTest::newRow("printing screen, through the selection") << "FrmReport";
+}
+
+void TestReportScreens::closingReturnsToTheOpener()
+{
+    QFETCH(QString, child);
+    Window main(reportsStore());
+    QMdiArea *area = main.window.mdiArea();
+    main.trigger("mnuMaster(0)");
+    QMdiSubWindow *opener = nullptr;
+    if (child == u"FrmReport") {
+        main.trigger("mnuMaster(2)");
+        opener = main.window.findScreen("frmStateMaster");
+        main.select("mnuPrintForm26", "ZETA TRADERS", "FrmReport");
+    } else {
+        QWidget *printing = main.select("mnuPrintForm26", "ZETA TRADERS", "FrmReport");
+        opener = main.window.findScreen("FrmReport");
+        if (child == u"frmShowForms")
+            main.trigger("Tool(2)");
+        else
+            printing->findChild<QPushButton *>("cmdChalln")->click();
+    }
+    QMdiSubWindow *frame = main.window.findScreen(child);
+    QVERIFY(opener && frame);
+    QCOMPARE(area->currentSubWindow(), frame);
+    QVERIFY(frame->close());
+    QCOMPARE(area->currentSubWindow(), opener);
 }
 
 KELVORA_TEST_OBJECT(TestReportScreens);
