@@ -193,14 +193,11 @@ bool ReportPreview::savePdf(const QString &fileName)
 
 void ReportPreview::askPdfName()
 {
-    QString name = QFileDialog::getSaveFileName(this, QStringLiteral("Save as PDF"),
-                                                QDir::homePath(),
-                                                QStringLiteral("PDF File (*.pdf)"));
-    if (name.isEmpty())
-        return;
-    if (!name.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive))
-        name += QStringLiteral(".pdf");
-    savePdf(name);
+    const QString name = QFileDialog::getSaveFileName(this, QStringLiteral("Save as PDF"),
+                                                      QDir::homePath(),
+                                                      QStringLiteral("PDF File (*.pdf)"));
+    if (!name.isEmpty())
+        savePdf(reportfile::nameForFormat(name, reportfile::Format::Pdf));
 }
 
 void ReportPreview::zoomChosen(int index)

@@ -166,7 +166,9 @@ void TestReportLayout::formatForName_data()
     QTest::newRow("pdf") << "form.pdf" << std::optional(Format::Pdf);
     QTest::newRow("capitals are another ending") << "FORM.XLS" << std::optional<Format>();
     QTest::newRow("last three characters only") << "formxls" << std::optional(Format::Workbook);
-    QTest::newRow("longer ending") << "form.xlsx" << std::optional<Format>();
+    QTest::newRow("xlsx") << "form.xlsx" << std::optional(Format::Workbook);
+    QTest::newRow("odt") << "form.odt" << std::optional(Format::Document);
+    QTest::newRow("capitals of a longer ending") << "FORM.ODT" << std::optional<Format>();
     QTest::newRow("no ending") << "form" << std::optional<Format>();
 }
 

@@ -26,6 +26,9 @@
 #include <QTreeWidget>
 #include <QtTest>
 
+Q_DECLARE_METATYPE(Answer)
+Q_DECLARE_METATYPE(reportfile::Format)
+
 namespace {
 
 /// The main window over a store, as the program opens it.
@@ -80,6 +83,8 @@ private slots:
     void companyDetailsScreen_data();
     void companyDetailsScreen();
     void form27AButtons();
+    void form27AExports_data();
+    void form27AExports();
     void printingWithoutPrinter();
     void statementPrintouts_data();
     void statementPrintouts();
@@ -209,13 +214,7 @@ void TestReportScreens::form27AButtons()
     QCOMPARE(preview->windowTitle(), "Form 27A");
     QVERIFY(preview->report().text().contains("(a) Name Of Organisation\t" + trickyName));
 
-    // A name with an ending of no format takes the chosen filter's.
     QTemporaryDir folder;
-    const QString path = folder.filePath("FORM27A.XLS");
-    QVERIFY(form27aactions::exportForm27ATo(main.session.store, main.boxes, values, path,
-                                            reportfile::Format::Document));
-    QCOMPARE(zipMember(path, "mimetype"), "application/vnd.oasis.opendocument.text");
-
     values.compId = "2";
     form27aactions::printForm27A(statement, main.session.store, main.boxes, values);
     QVERIFY(!form27aactions::exportForm27ATo(main.session.store, main.boxes, values,
@@ -224,6 +223,78 @@ void TestReportScreens::form27AButtons()
     QCOMPARE(main.boxes.texts(), QStringList(2, "You need to first generate the Kelvora file"));
     QVERIFY(!QFile::exists(folder.filePath("other.txt")));
     QCOMPARE(main.window.mdiArea()->subWindowList().size(), 2);
+}
+
+// Each export is named by what it holds, whatever ending the user typed or the dialog proposed:
+// the ending asks for the format (exactly as typed), else the chosen filter does. A file that
+// the new name would replace, unseen in the dialog, is replaced only when the user says so.
+void TestReportScreens::form27AExports_data()
+{
+    testsuite::columns<QString, reportfile::Format, QString, Answer>("typed", "filter",
+                                                                    "written", "replace");
+    using reportfile::Format;
+    const QList<std::tuple<const char *, const char *, Format, const char *>> rows = {
+        {"xls", "form27a.xls", Format::Workbook, "form27a.xlsx"},
+        {"doc", "form27a.doc", Format::Document, "form27a.odt"},
+        {"doc under the Excel filter", "form27a.doc", Format::Workbook, "form27a.odt"},
+        {"txt", "form27a.txt", Format::Workbook, "form27a.txt"},
+        {"pdf", "form27a.pdf", Format::Document, "form27a.pdf"},
+        {"xlsx", "form27a.xlsx", Format::Pdf, "form27a.xlsx"},
+        {"odt", "form27a.odt", Format::Workbook, "form27a.odt"},
+        {"no ending", "form27a", Format::Pdf, "form27a.pdf"},
+        {"capitals ask for no format", "FORM27A.XLS", Format::Document, "FORM27A.XLS.odt"},
+        {"capitals under their filter", "FORM27A.XLS", Format::Workbook, "FORM27A.xlsx"}};
+    for (const auto &[name, typed, filter, written] : rows)
+        QTest::newRow(name) << typed << filter << written << Answer::None;
+    QTest::newRow("an earlier xlsx kept")
+        << "form27a.xls" << Format::Workbook << "form27a.xlsx" << Answer::No;
+    QTest::newRow("an earlier xlsx replaced")
+        << "form27a.xls" << Format::Workbook << "form27a.xlsx" << Answer::Yes;
+}
+
+void TestReportScreens::form27AExports()
+{
+    QFETCH(QString, typed);
+    QFETCH(reportfile::Format, filter);
+    QFETCH(QString, written);
+    QFETCH(Answer, replace);
+    Window main(reportsStore());
+    Form27AValues values;
+    values.compId = "1";
+    values.assessmentYear = assessmentYear;
+    QTemporaryDir folder;
+    const QString path = folder.filePath(written);
+    if (replace != Answer::None) {
+        QFile earlier(path);
+        QVERIFY(earlier.open(QIODevice::WriteOnly) && earlier.write("earlier") == 7);
+        main.boxes.answerNext(replace);
+    }
+
+    QCOMPARE(form27aactions::exportForm27ATo(main.session.store, main.boxes, values,
+                                             folder.filePath(typed), filter),
+             replace != Answer::No);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{written});
+    QCOMPARE(main.boxes.shown.size(), replace == Answer::None ? 0 : 1);
+    if (replace != Answer::None) {
+        QCOMPARE(main.boxes.shown.first(),
+                 Message({form27aactions::replaceQuestion.arg(QDir::toNativeSeparators(path)),
+                          appTitle, MessageIcon::Question, MessageButtons::YesNo, true}));
+    }
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    if (replace == Answer::No) {
+        QCOMPARE(bytes, "earlier");
+    } else if (written.endsWith(".xlsx")) {
+        QVERIFY(bytes.startsWith("PK\x03\x04"));
+        QVERIFY(zipMember(path, "xl/workbook.xml").contains("spreadsheetml"));
+    } else if (written.endsWith(".odt")) {
+        QCOMPARE(zipMember(path, "mimetype"), "application/vnd.oasis.opendocument.text");
+    } else if (written.endsWith(".pdf")) {
+        QVERIFY(bytes.startsWith("%PDF-"));
+    } else {
+        QVERIFY(bytes.contains("FORM NO. 27A"));
+    }
 }
 
 void TestReportScreens::printingWithoutPrinter()
