@@ -11,8 +11,9 @@ AreaWindow::AreaWindow(QMdiSubWindow *opener) : m_opener(opener)
 void AreaWindow::closeEvent(QCloseEvent *event)
 {
     QMdiArea *area = mdiArea();
-    const bool inFront = area && area->currentSubWindow() == this;
+    m_returning = area && area->currentSubWindow() == this && m_opener && m_opener->isVisible();
     QMdiSubWindow::closeEvent(event);
+    m_returning = false;
     if (!event->isAccepted() || !area)
         return;
     // What this window opened goes back, when closed, to where this one came from: a statement
@@ -22,8 +23,15 @@ void AreaWindow::closeEvent(QCloseEvent *event)
         if (auto *child = qobject_cast<AreaWindow *>(frame); child && child->m_opener == this)
             child->m_opener = m_opener;
     }
-    // The area by itself brings forward the next window in the order of opening, which may be
-    // another statement's screen.
-    if (inFront && m_opener && m_opener->isVisible())
-        area->setActiveSubWindow(m_opener);
+}
+
+bool AreaWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    // The screen has agreed to close and goes: its opener takes the front before the focus
+    // leaves the screen, which would bring up the window next in the focus chain instead.
+    if (m_returning && watched == widget() && event->type() == QEvent::Hide) {
+        m_returning = false;
+        mdiArea()->setActiveSubWindow(m_opener);
+    }
+    return QMdiSubWindow::eventFilter(watched, event);
 }

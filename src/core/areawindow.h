@@ -15,7 +15,9 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QPointer<QMdiSubWindow> m_opener;
+    bool m_returning = false; ///< closing in front: the opener takes the front when it goes
 };

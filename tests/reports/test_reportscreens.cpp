@@ -409,26 +409,35 @@ void TestReportScreens::closingReturnsToTheOpener()
 {
     QFETCH(QString, child);
     Window main(reportsStore());
+    QApplication::setActiveWindow(&main.window); // the focus moves as the user sees it
     QMdiArea *area = main.window.mdiArea();
     main.trigger("mnuMaster(0)");
+    main.trigger("mnuMaster(2)");
+    QList<QMdiSubWindow *> stacked; // before the child opened
+    const auto noteFront = [&] {
+        stacked = area->subWindowList(QMdiArea::StackingOrder);
+        return area->currentSubWindow();
+    };
     QMdiSubWindow *opener = nullptr;
     if (child == u"FrmReport") {
-        main.trigger("mnuMaster(2)");
-        opener = main.window.findScreen("frmStateMaster");
+        main.trigger("mnuMaster(6)");
+        opener = noteFront();
         main.select("mnuPrintForm26", "ZETA TRADERS", "FrmReport");
     } else {
         QWidget *printing = main.select("mnuPrintForm26", "ZETA TRADERS", "FrmReport");
-        opener = main.window.findScreen("FrmReport");
+        opener = noteFront();
         if (child == u"frmShowForms")
             main.trigger("Tool(2)");
         else
             printing->findChild<QPushButton *>("cmdChalln")->click();
     }
     QMdiSubWindow *frame = main.window.findScreen(child);
-    QVERIFY(opener && frame);
+    QVERIFY(opener && frame && opener != frame);
     QCOMPARE(area->currentSubWindow(), frame);
     QVERIFY(frame->close());
     QCOMPARE(area->currentSubWindow(), opener);
+    // No other window came up on the way.
+    QCOMPARE(area->subWindowList(QMdiArea::StackingOrder), stacked);
 }
 
 KELVORA_TEST_OBJECT(TestReportScreens);
