@@ -32,6 +32,12 @@ bool AreaWindow::eventFilter(QObject *watched, QEvent *event)
     if (m_returning && watched == widget() && event->type() == QEvent::Hide) {
         m_returning = false;
         mdiArea()->setActiveSubWindow(m_opener);
+        // After a question of the screen the main window gets the keyboard back later, to the
+        // field it last had: that must be one of the opener, not the closed screen's.
+        if (!m_opener->isAncestorOf(window()->focusWidget())) {
+            QWidget *field = m_opener->widget() ? m_opener->widget()->focusWidget() : nullptr;
+            (field ? field : m_opener.data())->setFocus();
+        }
     }
     return QMdiSubWindow::eventFilter(watched, event);
 }

@@ -396,47 +396,55 @@ void TestReportScreens::olderCertificateScreen()
 }
 
 // The window that a child opened from (or the one in front when the menu opened it) comes to
-// the front when the child closes, although another screen was opened before it.
+// the front when the child closes, although other screens were opened before it, and no other
+// window comes up on the way: not even when a question of the child took the keyboard away
+// from the main window, which gets it back after the window has closed.
 void TestReportScreens::closingReturnsToTheOpener_data()
 {
-    QTest::addColumn<QString>("child");
-    QTest::newRow("report viewer") << "crChallan26";
-    QTest::newRow("show forms") << "frmShowForms";
-    QTest::newRow("printing screen, through the selection") << "FrmReport";
+    testsuite::columns<QString, QString>("opener", "child");
+    QTest::newRow("report viewer") << "FrmReport" << "crChallan26";
+    QTest::newRow("show forms") << "FrmReport" << "frmShowForms";
+    QTest::newRow("printing screen, through the selection")
+        << "frmCategoryMaster" << "FrmReport";
+    QTest::newRow("statement asking first, through the selection")
+        << "frmForm26" << "frmForm24";
 }
 
 void TestReportScreens::closingReturnsToTheOpener()
 {
+    QFETCH(QString, opener);
     QFETCH(QString, child);
     Window main(reportsStore());
     QApplication::setActiveWindow(&main.window); // the focus moves as the user sees it
     QMdiArea *area = main.window.mdiArea();
+    const auto open = [&main, area](const QString &screen) {
+        const QHash<QString, QString> selected = {{"FrmReport", "mnuPrintForm26"},
+                                                  {"frmForm26", "mnuForm26"},
+                                                  {"frmForm24", "mnuform24"}};
+        if (selected.contains(screen))
+            main.select(selected[screen], "ZETA TRADERS", screen);
+        else if (screen == u"crChallan26")
+            area->currentSubWindow()->widget()->findChild<QPushButton *>("cmdChalln")->click();
+        else
+            main.trigger(screen == u"frmShowForms" ? "Tool(2)" : "mnuMaster(6)");
+        return main.window.findScreen(screen);
+    };
     main.trigger("mnuMaster(0)");
     main.trigger("mnuMaster(2)");
-    QList<QMdiSubWindow *> stacked; // before the child opened
-    const auto noteFront = [&] {
-        stacked = area->subWindowList(QMdiArea::StackingOrder);
-        return area->currentSubWindow();
-    };
-    QMdiSubWindow *opener = nullptr;
-    if (child == u"FrmReport") {
-        main.trigger("mnuMaster(6)");
-        opener = noteFront();
-        main.select("mnuPrintForm26", "ZETA TRADERS", "FrmReport");
-    } else {
-        QWidget *printing = main.select("mnuPrintForm26", "ZETA TRADERS", "FrmReport");
-        opener = noteFront();
-        if (child == u"frmShowForms")
-            main.trigger("Tool(2)");
-        else
-            printing->findChild<QPushButton *>("cmdChalln")->click();
-    }
-    QMdiSubWindow *frame = main.window.findScreen(child);
-    QVERIFY(opener && frame && opener != frame);
+    QMdiSubWindow *front = open(opener);
+    const QList<QMdiSubWindow *> stacked = area->subWindowList(QMdiArea::StackingOrder);
+    QMdiSubWindow *frame = open(child);
+    QVERIFY(front && frame && front != frame);
     QCOMPARE(area->currentSubWindow(), frame);
+    const bool asks = child.startsWith(u"frmForm");
+    if (asks) {
+        main.boxes.answerNext(Answer::No);
+        QApplication::setActiveWindow(nullptr);
+    }
     QVERIFY(frame->close());
-    QCOMPARE(area->currentSubWindow(), opener);
-    // No other window came up on the way.
+    QApplication::setActiveWindow(&main.window);
+    QCOMPARE(main.boxes.texts().size(), asks ? 1 : 0);
+    QCOMPARE(area->currentSubWindow(), front);
     QCOMPARE(area->subWindowList(QMdiArea::StackingOrder), stacked);
 }
 
