@@ -8,6 +8,7 @@
 #include "core/formtraits.h"
 
 #include <QSqlQuery>
+#include <algorithm>
 
 namespace {
 
@@ -46,6 +47,23 @@ QList<CompanySelection::Company> CompanySelection::companies(int groupId) const
                        records::nullToText(query.value(2))});
     }
     return result;
+}
+
+int CompanySelection::lastGroupIndex(const QStringList &groupNames) const
+{
+    // By the id that the selection reads from each name, not by the text of the name.
+    if (m_session.curGroupId != 0) {
+        for (int index = 0; index < groupNames.size(); ++index) {
+            if (groupId(groupNames[index]) == m_session.curGroupId)
+                return index;
+        }
+    }
+    return 0;
+}
+
+int CompanySelection::lastQuarterIndex() const
+{
+    return std::max(0, quarter::indexOf(m_session.curQuarter));
 }
 
 quarter::Period CompanySelection::applyQuarter(int index)

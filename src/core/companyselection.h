@@ -66,6 +66,12 @@ public:
     /// The companies of a group in the session's assessment period, by name.
     QList<Company> companies(int groupId) const;
 
+    /// The place in the group names of the group of the last selection of the run; the first
+    /// group before the first selection or when that group is gone.
+    int lastGroupIndex(const QStringList &groupNames) const;
+    /// The quarter of the last selection of the run; the first quarter before the first one.
+    int lastQuarterIndex() const;
+
     /// Sets the session's quarter dates for the index; an invalid index shows its box and leaves
     /// the dates as they were. Returns the period (invalid for an invalid index).
     quarter::Period applyQuarter(int index);

@@ -84,10 +84,11 @@ FrmLogin::FrmLogin(Session &session, MessageBoxes &boxes, QWidget *parent)
     setTabOrder(m_quarter, m_select);
     setTabOrder(m_select, m_cancel);
 
+    // The user comes back, as a rule, for the same group and quarter as the last time.
     fillGroups();
     groupChanged();
     m_quarter->addItems(quarter::names());
-    m_quarter->setCurrentIndex(0);
+    m_quarter->setCurrentIndex(m_selection.lastQuarterIndex());
     getQuarter();
 
     connect(m_group, &QComboBox::currentTextChanged, this, &FrmLogin::groupChanged);
@@ -126,9 +127,10 @@ bool FrmLogin::eventFilter(QObject *watched, QEvent *event)
 void FrmLogin::fillGroups()
 {
     m_group->clear();
-    m_group->addItems(m_selection.groupNames());
+    const QStringList names = m_selection.groupNames();
+    m_group->addItems(names);
     if (m_group->count() > 0)
-        m_group->setCurrentIndex(0);
+        m_group->setCurrentIndex(m_selection.lastGroupIndex(names));
 }
 
 void FrmLogin::groupChanged()

@@ -25,11 +25,16 @@ constexpr Bounds bounds[] = {
 
 bool isCode(const QString &code)
 {
-    for (const Bounds &b : bounds) {
-        if (code == QLatin1String(b.code))
-            return true;
+    return indexOf(code) >= 0;
+}
+
+int indexOf(const QString &code)
+{
+    for (int index = 0; index < int(std::size(bounds)); ++index) {
+        if (code == QLatin1String(bounds[index].code))
+            return index;
     }
-    return false;
+    return -1;
 }
 
 QStringList names()

@@ -23,6 +23,9 @@ struct Period
 /// Whether a text is a quarter's code as the front ends take it: "Q1" to "Q4", exactly.
 bool isCode(const QString &code);
 
+/// The list index of a quarter's code, -1 for a text that is none.
+int indexOf(const QString &code);
+
 /// The texts of the quarter list, in the order of their index.
 QStringList names();
 

@@ -1,26 +1,49 @@
 #include "core/screenroutines.h"
 
+#include "core/areawindow.h"
+
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <algorithm>
 
 namespace screenroutines {
 
-QMdiSubWindow *showInArea(QMdiArea *area, QWidget *screen)
+namespace {
+
+const char *const placementProperty = "areaPlacement";
+
+} // namespace
+
+void setPlacement(QWidget *screen, Placement placement)
+{
+    screen->setProperty(placementProperty, int(placement));
+}
+
+QMdiSubWindow *showInArea(QMdiArea *area, QWidget *screen, QMdiSubWindow *opener)
 {
     const QSize wanted = screen->size();
-    QMdiSubWindow *frame = area->addSubWindow(screen);
-    frame->setAttribute(Qt::WA_DeleteOnClose);
+    const auto placement = Placement(screen->property(placementProperty).toInt());
+    auto *frame = new AreaWindow(opener);
+    frame->setWidget(screen);
+    area->addSubWindow(frame);
     frame->setWindowIcon(area->window()->windowIcon());
     frame->show();
     // The frame comes up at a default size; each screen knows the size it is drawn for. On a
     // small display the screen's layout gives way down to its minimum, so that its command
     // buttons stay in sight.
+    const QSize room = area->viewport()->size();
     const QSize drawn = frame->size() + wanted - screen->size();
-    frame->resize(drawn.boundedTo(area->viewport()->size()).expandedTo(frame->minimumSizeHint()));
-    if (frame->geometry().bottom() > area->viewport()->height())
-        frame->move(0, 0);
+    frame->resize(drawn.boundedTo(room).expandedTo(frame->minimumSizeHint()));
+    QPoint place = frame->pos();
+    if (placement == Placement::TopLeft)
+        place = {0, 0};
+    else if (placement == Placement::Middle)
+        place = {(room.width() - frame->width()) / 2, (room.height() - frame->height()) / 2};
+    // Nothing of the window past the area's right or bottom edge, where only scrolling shows it.
+    frame->move(std::max(0, std::min(place.x(), room.width() - frame->width())),
+                std::max(0, std::min(place.y(), room.height() - frame->height())));
     return frame;
 }
 

@@ -15,10 +15,21 @@ namespace screenroutines {
 /// alone (as in tests).
 void closeScreen(QWidget *screen);
 
+/// Where a screen's window stands when it opens in the main window's area.
+enum class Placement {
+    Next,    ///< where the area puts its next window
+    TopLeft, ///< at the area's top left corner, the same place each time
+    Middle,  ///< in the middle of the area
+};
+
+/// Tells showInArea() where the screen's window stands; without it, at the Next place.
+void setPlacement(QWidget *screen, Placement placement);
+
 /// Shows a screen in a window of the main window's area at the size it is drawn for, or smaller
-/// down to its minimum when the area is smaller; a window that would run past the bottom of the
-/// area starts at its top instead. The window goes when it is closed.
-QMdiSubWindow *showInArea(QMdiArea *area, QWidget *screen);
+/// down to its minimum when the area is smaller, at the screen's place, moved left and up as far
+/// as it takes to stand wholly in the area. Closing the window brings the opener, the window the
+/// screen was opened from, to the front again; the window goes when it is closed.
+QMdiSubWindow *showInArea(QMdiArea *area, QWidget *screen, QMdiSubWindow *opener);
 
 /// A key press of Enter, on the main keyboard or the keypad: entry moves along the fields on it.
 bool isEnterKey(const QEvent *event);

@@ -16,11 +16,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -98,17 +95,8 @@ FrmImport::FrmImport(Session &session, MessageBoxes &boxes, QWidget *parent)
     connect(m_importButton, &QPushButton::clicked, this, &FrmImport::importData);
     connect(m_close, &QPushButton::clicked, this, [this] { screenroutines::closeScreen(this); });
     m_open->setFocus();
+    screenroutines::setPlacement(this, screenroutines::Placement::Middle);
     resize(560, 210);
-}
-
-void FrmImport::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    if (!m_placed) {
-        m_placed = true;
-        // After the main window has sized the frame that it has just shown.
-        QTimer::singleShot(0, this, &FrmImport::placeInMiddle);
-    }
 }
 
 void FrmImport::closeEvent(QCloseEvent *event)
@@ -181,12 +169,3 @@ void FrmImport::setRunning(bool running)
         button->setEnabled(!running);
 }
 
-void FrmImport::placeInMiddle()
-{
-    auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget());
-    if (!frame || !frame->mdiArea())
-        return;
-    const QRect area = frame->mdiArea()->viewport()->rect();
-    frame->move(std::max(0, (area.width() - frame->width()) / 2),
-                std::max(0, (area.height() - frame->height()) / 2));
-}

@@ -25,7 +25,6 @@ public:
     FrmImport(Session &session, MessageBoxes &boxes, QWidget *parent = nullptr);
 
 protected:
-    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -33,13 +32,11 @@ private:
     void importData();
     void showProgress(const QString &table, qint64 copied, qint64 total);
     void setRunning(bool running);
-    void placeInMiddle();
 
     Session &m_session;
     MessageBoxes &m_boxes;
     MasterImport m_import;
     bool m_running = false;
-    bool m_placed = false;
 
     QLineEdit *m_path;
     QPushButton *m_open;

@@ -114,6 +114,8 @@ FrmReport::FrmReport(Session &session, MessageBoxes &boxes, QWidget *parent)
     } catch (const StoreError &error) {
         m_boxes.show({error.description(), appTitle, MessageIcon::Critical});
     }
+    // The screen stands at the top left of the main window's area.
+    screenroutines::setPlacement(this, screenroutines::Placement::TopLeft);
     resize(420, 160);
 }
 
@@ -124,14 +126,6 @@ bool FrmReport::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     return QWidget::eventFilter(watched, event);
-}
-
-void FrmReport::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    // The screen stands at the top left of the main window's area.
-    if (auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget()))
-        frame->move(0, 0);
 }
 
 QLineEdit *FrmReport::textBox(const QString &name)

@@ -27,7 +27,6 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void showEvent(QShowEvent *event) override;
 
 private:
     using Build = std::function<std::optional<Report>(const PrintoutHeading &)>;

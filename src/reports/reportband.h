@@ -50,6 +50,9 @@ struct ReportBand
     /// the index of their first band and their count; -1 and 0 outside a table.
     int headFirst = -1;
     int headCount = 0;
+    /// The list whose columns are as wide as their contents, sized together with the other
+    /// bands of that list: its number in the report; -1 for a band of no list.
+    int list = -1;
 
     double height = 0; ///< points, filled when the report is laid out
 };

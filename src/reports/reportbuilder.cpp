@@ -89,6 +89,21 @@ void ReportBuilder::beginTable(const QList<ReportColumn> &columns, bool grid,
     }
 }
 
+void ReportBuilder::beginList(const QList<ReportColumn> &columns, bool grid)
+{
+    QStringList heads;
+    for (const ReportColumn &column : columns)
+        heads.append(column.heading);
+    qsizetype list = m_listHeads.indexOf(heads);
+    if (list < 0) {
+        list = m_listHeads.size();
+        m_listHeads.append(heads);
+    }
+    beginTable(columns, grid);
+    m_list = int(list);
+    m_bands.back().list = m_list;
+}
+
 void ReportBuilder::row(const QStringList &texts)
 {
     QList<ReportCell> cells;
@@ -113,6 +128,7 @@ void ReportBuilder::cellRow(QList<ReportCell> cells)
     ReportBand &band = add(std::move(cells), ReportFont::Normal);
     band.headFirst = m_headFirst;
     band.headCount = m_headCount;
+    band.list = m_list;
 }
 
 void ReportBuilder::endTable()
@@ -121,11 +137,13 @@ void ReportBuilder::endTable()
     m_grid = false;
     m_headFirst = -1;
     m_headCount = 0;
+    m_list = -1;
 }
 
 Report ReportBuilder::finish()
 {
     endTable();
+    m_listHeads.clear();
     Report report(m_caption, m_head, m_orientation, std::move(m_bands));
     m_bands.clear();
     m_space = 0;

@@ -57,6 +57,11 @@ public:
     /// Starts a table. grid frames every cell; spans are heads over groups of columns.
     void beginTable(const QList<ReportColumn> &columns, bool grid = false,
                     const QList<ReportSpanHead> &spans = {});
+    /// Starts a list: a table whose columns are as wide as their texts need, without a word
+    /// broken where the page has the room, and share out what the page has left; the widths of
+    /// the columns given are not read. The lists of a report under the same heads are sized
+    /// alike, so that their columns line up from one list to the next.
+    void beginList(const QList<ReportColumn> &columns, bool grid = false);
     /// A row of the table, one text per column (missing ones are empty).
     void row(const QStringList &texts);
     /// A row whose cells carry more than their texts, such as the numbers behind amounts;
@@ -81,4 +86,6 @@ private:
     bool m_grid = false;
     int m_headFirst = -1;
     int m_headCount = 0;
+    int m_list = -1;
+    QList<QStringList> m_listHeads; ///< the heads of each list of the report, by its number
 };

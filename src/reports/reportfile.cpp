@@ -15,6 +15,22 @@ namespace reportfile {
 
 namespace {
 
+/// The ending of the files of a format, and that of the older format that the same filter
+/// once wrote, which the user may still type.
+struct Ending
+{
+    Format format;
+    const char *own;
+    const char *older; ///< empty when there is none
+};
+
+constexpr Ending endings[] = {
+    {Format::Workbook, "xlsx", "xls"},
+    {Format::Document, "odt", "doc"},
+    {Format::PlainText, "txt", ""},
+    {Format::Pdf, "pdf", ""},
+};
+
 QString failure(const QString &fileName, const QString &reason)
 {
     return QStringLiteral("The report could not be saved as %1:\n%2")
@@ -60,16 +76,28 @@ std::optional<QByteArray> workbookBytes(const Report &report, QString *reason)
 
 std::optional<Format> formatForName(const QString &fileName)
 {
-    const QString ending = fileName.right(3);
-    if (ending == u"xls")
-        return Format::Workbook;
-    if (ending == u"doc")
-        return Format::Document;
-    if (ending == u"txt")
-        return Format::PlainText;
-    if (ending == u"pdf")
-        return Format::Pdf;
+    for (const Ending &ending : endings) {
+        if (fileName.endsWith(QLatin1String(ending.own))
+            || (*ending.older && fileName.endsWith(QLatin1String(ending.older))))
+            return ending.format;
+    }
     return std::nullopt;
+}
+
+QString nameForFormat(const QString &fileName, Format format)
+{
+    for (const Ending &ending : endings) {
+        if (ending.format != format)
+            continue;
+        const QString own = QLatin1Char('.') + QLatin1String(ending.own);
+        if (fileName.endsWith(own, Qt::CaseInsensitive))
+            return fileName;
+        const QString older = QLatin1Char('.') + QLatin1String(ending.older);
+        if (*ending.older && fileName.endsWith(older, Qt::CaseInsensitive))
+            return fileName.chopped(older.size()) + own;
+        return fileName + own;
+    }
+    return fileName;
 }
 
 QString writeWhole(const QString &fileName, const QByteArray &bytes)

@@ -15,9 +15,14 @@ enum class Format {
     Pdf,
 };
 
-/// The format that the last three characters of a file's name ask for: "xls", "doc", "txt"
-/// or "pdf", compared exactly as typed, so "XLS" asks for none.
+/// The format that the ending of a file's name asks for: "xls" or "xlsx", "doc" or "odt",
+/// "txt" or "pdf", compared exactly as typed, so "XLS" asks for none.
 std::optional<Format> formatForName(const QString &fileName);
+
+/// The name that says what a file of the format holds, so that other programs open it without
+/// a warning: ".xlsx", ".odt", ".txt" or ".pdf" (in any case) is kept, ".xls" and ".doc" give
+/// way to the ending of the format, and any other name gets the ending added.
+QString nameForFormat(const QString &fileName, Format format);
 
 /// Saves the report in the format. Returns an empty text on success, otherwise the message for
 /// the user. A failed save leaves no partial file, and an earlier file of that name as it was.

@@ -6,6 +6,7 @@
 #include <QTextBoundaryFinder>
 #include <algorithm>
 #include <array>
+#include <map>
 #include <optional>
 
 namespace reportlayout {
@@ -63,6 +64,75 @@ void breakParagraph(const QString &paragraph, const QFontMetricsF &metrics, doub
         addLine(cell, line, metrics);
 }
 
+using FaceMetrics = std::array<std::optional<QFontMetricsF>, int(ReportFont::Small) + 1>;
+
+/// What the texts of a list's column need, with the cells' padding: the width of its longest
+/// line, and of its longest word, below which a word would be broken.
+struct ColumnNeed
+{
+    double line = 2 * cellPaddingX;
+    double word = 2 * cellPaddingX;
+};
+
+/// The columns' widths as parts of the body: every line whole when the body has the room for
+/// them, else every word whole and the room left shared by what the longer lines lack, else
+/// the words' widths shrunk alike.
+QList<double> listWidths(const QList<ColumnNeed> &needs, double bodyWidth)
+{
+    double lines = 0;
+    double words = 0;
+    for (const ColumnNeed &need : needs) {
+        lines += need.line;
+        words += need.word;
+    }
+    QList<double> widths;
+    for (const ColumnNeed &need : needs) {
+        double width = need.word * bodyWidth / words;
+        if (lines <= bodyWidth)
+            width = need.line * bodyWidth / lines;
+        else if (words <= bodyWidth)
+            width = need.word + (need.line - need.word) * (bodyWidth - words) / (lines - words);
+        widths.append(width / bodyWidth);
+    }
+    return widths;
+}
+
+void sizeLists(std::vector<ReportBand> &bands, double bodyWidth, const FaceMetrics &metrics)
+{
+    std::map<int, QList<ColumnNeed>> lists;
+    for (const ReportBand &band : bands) {
+        if (band.list < 0)
+            continue;
+        QList<ColumnNeed> &needs = lists[band.list];
+        needs.resize(std::max(needs.size(), band.cells.size()));
+        const QFontMetricsF &face = *metrics[int(band.font)];
+        for (qsizetype column = 0; column < band.cells.size(); ++column) {
+            ColumnNeed &need = needs[column];
+            for (const QString &line : band.cells[column].text.split(QLatin1Char('\n'))) {
+                need.line = std::max(need.line, face.horizontalAdvance(line) + 2 * cellPaddingX);
+                for (const QString &word : line.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+                    need.word =
+                        std::max(need.word, face.horizontalAdvance(word) + 2 * cellPaddingX);
+                }
+            }
+        }
+    }
+    std::map<int, QList<double>> widths;
+    for (const auto &[list, needs] : lists)
+        widths[list] = listWidths(needs, bodyWidth);
+    for (ReportBand &band : bands) {
+        if (band.list < 0)
+            continue;
+        const QList<double> &columns = widths[band.list];
+        double left = 0;
+        for (qsizetype column = 0; column < band.cells.size(); ++column) {
+            band.cells[column].left = left;
+            band.cells[column].width = columns[column];
+            left += columns[column];
+        }
+    }
+}
+
 } // namespace
 
 double lineHeight(ReportFont face)
@@ -78,13 +148,13 @@ double firstBaseline(ReportFont face)
 
 void measure(std::vector<ReportBand> &bands, double bodyWidth)
 {
-    constexpr int faces = int(ReportFont::Small) + 1;
-    std::array<std::optional<QFontMetricsF>, faces> metrics;
-    std::array<double, faces> heights{};
-    for (int face = 0; face < faces; ++face) {
+    FaceMetrics metrics;
+    std::array<double, std::tuple_size_v<FaceMetrics>> heights{};
+    for (int face = 0; face < int(metrics.size()); ++face) {
         metrics[face].emplace(reportFont(ReportFont(face)));
         heights[face] = lineHeight(ReportFont(face));
     }
+    sizeLists(bands, bodyWidth, metrics);
 
     for (ReportBand &band : bands) {
         const int face = int(band.font);

@@ -25,8 +25,9 @@ double lineHeight(ReportFont face);
 /// The baseline of the first line below a cell's top.
 double firstBaseline(ReportFont face);
 
-/// Breaks every cell's text into lines that fit its width (at line ends and, when too long,
-/// at word boundaries) and sets each band's height.
+/// Sizes the columns of the lists to their contents, breaks every cell's text into lines that
+/// fit its width (at line ends and, when too long, at word boundaries) and sets each band's
+/// height.
 void measure(std::vector<ReportBand> &bands, double bodyWidth);
 
 /**

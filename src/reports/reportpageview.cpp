@@ -65,6 +65,15 @@ void ReportPageView::setCurrentPage(int page)
     verticalScrollBar()->setValue(pageTop(page) - gap);
 }
 
+QSize ReportPageView::sizeHint() const
+{
+    // The page with the gaps around it, beside the vertical scroll bar that a page taller than
+    // the screen brings.
+    const int frame = 2 * frameWidth();
+    return pageSize() + QSize(2 * gap + frame + verticalScrollBar()->sizeHint().width(),
+                              2 * gap + frame);
+}
+
 void ReportPageView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(viewport());

@@ -28,6 +28,9 @@ public:
     /// Scrolls the page (from 1, kept within the report) to the top of the view.
     void setCurrentPage(int page);
 
+    /// A whole page wide and high at the present zoom.
+    QSize sizeHint() const override;
+
 signals:
     void currentPageChanged(int page);
 

@@ -135,7 +135,10 @@ ReportPreview::ReportPreview(std::shared_ptr<const Report> report, MessageBoxes 
 
     m_zoom->setCurrentIndex(startZoom);
     zoomChosen(startZoom);
-    resize(820, 640);
+    // The page is read at 100% without scrolling sideways where the main window has the room;
+    // every viewer stands at one place, so the eye finds it where it was last time.
+    resize(sizeHint());
+    screenroutines::setPlacement(this, screenroutines::Placement::TopLeft);
 }
 
 ReportPreview::~ReportPreview() = default;
@@ -146,7 +149,7 @@ ReportPreview *ReportPreview::open(QWidget *beside, std::shared_ptr<const Report
     auto *preview = new ReportPreview(std::move(report), boxes, name);
     for (QWidget *widget = beside; widget; widget = widget->parentWidget()) {
         if (auto *frame = qobject_cast<QMdiSubWindow *>(widget); frame && frame->mdiArea()) {
-            screenroutines::showInArea(frame->mdiArea(), preview);
+            screenroutines::showInArea(frame->mdiArea(), preview, frame);
             return preview;
         }
     }
@@ -190,14 +193,11 @@ bool ReportPreview::savePdf(const QString &fileName)
 
 void ReportPreview::askPdfName()
 {
-    QString name = QFileDialog::getSaveFileName(this, QStringLiteral("Save as PDF"),
-                                                QDir::homePath(),
-                                                QStringLiteral("PDF File (*.pdf)"));
-    if (name.isEmpty())
-        return;
-    if (!name.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive))
-        name += QStringLiteral(".pdf");
-    savePdf(name);
+    const QString name = QFileDialog::getSaveFileName(this, QStringLiteral("Save as PDF"),
+                                                      QDir::homePath(),
+                                                      QStringLiteral("PDF File (*.pdf)"));
+    if (!name.isEmpty())
+        savePdf(reportfile::nameForFormat(name, reportfile::Format::Pdf));
 }
 
 void ReportPreview::zoomChosen(int index)

@@ -23,7 +23,8 @@ public:
     ~ReportPreview() override;
 
     /// Shows a report beside a screen: in the main window's area when the screen stands in
-    /// it, otherwise in a window of its own. The viewer closes itself when done with.
+    /// it, otherwise in a window of its own. The viewer closes itself when done with, and the
+    /// screen comes to the front again.
     static ReportPreview *open(QWidget *beside, std::shared_ptr<const Report> report,
                                MessageBoxes &boxes, const QString &name);
 

@@ -7,9 +7,6 @@
 #include "reports/reportbuilder.h"
 #include "reports/reportformat.h"
 
-#include <algorithm>
-
-
 namespace statementannexures {
 
 namespace {
@@ -24,13 +21,7 @@ struct Column
     QString column;
     int item;
     Kind kind;
-    double width; ///< points of a landscape page's body; 0 for the column that takes the rest
 };
-
-/// The width of a landscape A4 page between its margins, in points.
-constexpr double bodyWidth = 770;
-/// The least that the column taking the rest keeps, so that a name stays readable.
-constexpr double leastRest = 60;
 
 QString cellText(const QVariant &value, Kind kind)
 {
@@ -45,22 +36,16 @@ QString cellText(const QVariant &value, Kind kind)
     return records::nullToText(value);
 }
 
-/// The columns that the form has, with their item numbers under their heads, as parts of the
-/// body: one column takes what the others leave, and all shrink alike when that is too little.
+/// The columns that the form has, with their item numbers under their heads; each is as wide
+/// as its texts need.
 QList<ReportColumn> reportColumns(const QList<Column> &columns)
 {
-    double fixed = 0;
-    for (const Column &column : columns)
-        fixed += column.width;
-    const double rest = std::max(leastRest, bodyWidth - fixed);
-    const double total = fixed + rest;
     QList<ReportColumn> result;
     for (const Column &column : columns) {
         const QString heading = column.item > 0 ? column.heading + QStringLiteral("\n[%1]")
                                                                         .arg(column.item)
                                                 : column.heading;
-        result.append({heading, (column.width > 0 ? column.width : rest) / total,
-                       column.kind == Kind::Amount ? Qt::AlignRight : Qt::AlignLeft});
+        result.append({heading, 0, column.kind == Kind::Amount ? Qt::AlignRight : Qt::AlignLeft});
     }
     return result;
 }
@@ -115,32 +100,31 @@ std::optional<Report> challans(const DataStore &store, const FormTraits &form, i
     const auto item = [&form](ChallanItem which) { return form.challanItem(which); };
     QList<Column> columns = {
         {QStringLiteral("Sl. No."), QStringLiteral("SlNo"), item(ChallanItem::Serial),
-         Kind::Text, 40},
+         Kind::Text},
         {form.collectsTax ? QStringLiteral("Collection\nCode") : QStringLiteral("Section"),
-         QStringLiteral("Section"), item(ChallanItem::Section), Kind::Text, 56},
-        {taxWord(form), QStringLiteral("AmountDeducted"), item(ChallanItem::Tds), Kind::Amount,
-         60},
+         QStringLiteral("Section"), item(ChallanItem::Section), Kind::Text},
+        {taxWord(form), QStringLiteral("AmountDeducted"), item(ChallanItem::Tds), Kind::Amount},
         {QStringLiteral("Surcharge"), QStringLiteral("Surcharge"), item(ChallanItem::Surcharge),
-         Kind::Amount, 62},
+         Kind::Amount},
         {QStringLiteral("Education\nCess"), QStringLiteral("EduCess"), item(ChallanItem::Cess),
-         Kind::Amount, 58},
+         Kind::Amount},
         {QStringLiteral("Interest"), QStringLiteral("Interest"), item(ChallanItem::Interest),
-         Kind::Amount, 52},
+         Kind::Amount},
         {QStringLiteral("Others"), QStringLiteral("Others"), item(ChallanItem::Others),
-         Kind::Amount, 52},
+         Kind::Amount},
         {QStringLiteral("Total tax\ndeposited"), QStringLiteral("Total"), item(ChallanItem::Total),
-         Kind::Amount, 62},
+         Kind::Amount},
         {QStringLiteral("Cheque /\nDD No."), QStringLiteral("ChqDDNo"), item(ChallanItem::Cheque),
-         Kind::Text, 0},
+         Kind::Text},
         {QStringLiteral("BSR Code"), QStringLiteral("BankCode"), item(ChallanItem::Bank),
-         Kind::Text, 50},
+         Kind::Text},
         {QStringLiteral("Date of\ndeposit"), QStringLiteral("DtTrVoucher"),
-         item(ChallanItem::Date), Kind::Date, 60},
+         item(ChallanItem::Date), Kind::Date},
         {QStringLiteral("Challan No."), QStringLiteral("TrVoucherNo"),
-         item(ChallanItem::ChallanNo), Kind::Text, 56},
+         item(ChallanItem::ChallanNo), Kind::Text},
         {QStringLiteral("Transfer\nVoucher No."), QStringLiteral("TransferVoucherNo"),
-         item(ChallanItem::VoucherNo), Kind::Text, 64},
-        {QStringLiteral("Book\nEntry"), QStringLiteral("BookEntry"), -1, Kind::Text, 36},
+         item(ChallanItem::VoucherNo), Kind::Text},
+        {QStringLiteral("Book\nEntry"), QStringLiteral("BookEntry"), -1, Kind::Text},
     };
 
     columns.removeIf([](const Column &column) { return column.item == 0; });
@@ -155,7 +139,7 @@ std::optional<Report> challans(const DataStore &store, const FormTraits &form, i
                                    QStringLiteral("Form No. %1 : Details of tax deposited")
                                        .arg(form.formType),
                                    heading);
-    report.beginTable(reportColumns(columns), true);
+    report.beginList(reportColumns(columns), true);
     QList<Money> sums(columns.size());
     do {
         QStringList row;
@@ -177,35 +161,31 @@ std::optional<Report> annexure(const DataStore &store, const FormTraits &form, i
     const QString extra = form.grossingUpColumn.isEmpty() ? form.purchaseColumn
                                                           : form.grossingUpColumn;
     QList<Column> columns = {
-        {QStringLiteral("Sr.\nNo."), QStringLiteral("SrlNo"), -1, Kind::Text, 34},
+        {QStringLiteral("Sr.\nNo."), QStringLiteral("SrlNo"), -1, Kind::Text},
         {QStringLiteral("Section"), QStringLiteral("Section"),
-         form.challanHasSection() ? -1 : 0, Kind::Text, 44},
+         form.challanHasSection() ? -1 : 0, Kind::Text},
         {QStringLiteral("Code"), QStringLiteral("DeducteeCode"), item(AnnexureItem::Code),
-         Kind::Text, 34},
-        {QStringLiteral("PAN"), QStringLiteral("PAN"), item(AnnexureItem::Pan), Kind::Text, 68},
+         Kind::Text},
+        {QStringLiteral("PAN"), QStringLiteral("PAN"), item(AnnexureItem::Pan), Kind::Text},
         {form.partyWord + QStringLiteral(" Name"), form.partyNameColumn,
-         item(AnnexureItem::Name), Kind::Text, 0},
+         item(AnnexureItem::Name), Kind::Text},
         {QStringLiteral("Amount\npaid"), QStringLiteral("AmtOfPayment"),
-         item(AnnexureItem::Amount), Kind::Amount, 62},
+         item(AnnexureItem::Amount), Kind::Amount},
         {QStringLiteral("Date of\npayment"), QStringLiteral("PaymentDt"),
-         item(AnnexureItem::Date), Kind::Date, 60},
-        {QStringLiteral("Rate"), QStringLiteral("Rate"), item(AnnexureItem::Rate), Kind::Text,
-         34},
-        {QStringLiteral("Tax"), QStringLiteral("Tax"), item(AnnexureItem::Tax), Kind::Amount,
-         56},
+         item(AnnexureItem::Date), Kind::Date},
+        {QStringLiteral("Rate"), QStringLiteral("Rate"), item(AnnexureItem::Rate), Kind::Text},
+        {QStringLiteral("Tax"), QStringLiteral("Tax"), item(AnnexureItem::Tax), Kind::Amount},
         {QStringLiteral("Surcharge"), QStringLiteral("Surcharge"),
-         item(AnnexureItem::Surcharge), Kind::Amount, 62},
-        {QStringLiteral("Cess"), QStringLiteral("Cess"), item(AnnexureItem::Cess), Kind::Amount,
-         46},
+         item(AnnexureItem::Surcharge), Kind::Amount},
+        {QStringLiteral("Cess"), QStringLiteral("Cess"), item(AnnexureItem::Cess), Kind::Amount},
         {QStringLiteral("Total"), QStringLiteral("Total"), item(AnnexureItem::Total),
-         Kind::Amount, 56},
+         Kind::Amount},
         {QStringLiteral("Tax\ndeposited"), QStringLiteral("TaxAmount"),
-         item(AnnexureItem::Deposited), Kind::Amount, 58},
-        {QStringLiteral("Date of\ndeduction"), QStringLiteral("TaxDeductDt"), -1, Kind::Date,
-         60},
+         item(AnnexureItem::Deposited), Kind::Amount},
+        {QStringLiteral("Date of\ndeduction"), QStringLiteral("TaxDeductDt"), -1, Kind::Date},
         {form.collectsTax ? QStringLiteral("Value of\npurchase") : QStringLiteral("Grossing\nup"),
          extra, extra.isEmpty() ? 0 : item(AnnexureItem::Extra),
-         form.collectsTax ? Kind::Amount : Kind::Text, form.collectsTax ? 60.0 : 52.0},
+         form.collectsTax ? Kind::Amount : Kind::Text},
     };
 
     columns.removeIf([](const Column &column) { return column.item == 0; });
@@ -251,7 +231,7 @@ std::optional<Report> annexure(const DataStore &store, const FormTraits &form, i
                                 0.8, 0.2, Qt::AlignRight)},
                     ReportFont::Bold);
         report.keepWithNext();
-        report.beginTable(heads, true);
+        report.beginList(heads, true);
         sums = QList<Money>(columns.size());
         do {
             QStringList row;

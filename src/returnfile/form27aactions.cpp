@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 
 namespace form27aactions {
 
@@ -19,8 +20,8 @@ struct ExportFilter
 };
 
 constexpr ExportFilter exportFilters[] = {
-    {"Excel File (*.xls)", reportfile::Format::Workbook},
-    {"Document File (*.doc)", reportfile::Format::Document},
+    {"Excel File (*.xlsx)", reportfile::Format::Workbook},
+    {"Document File (*.odt)", reportfile::Format::Document},
     {"Text File (*.txt)", reportfile::Format::PlainText},
     {"PDF File (*.pdf)", reportfile::Format::Pdf},
 };
@@ -42,8 +43,15 @@ std::optional<Report> sheetOrMessage(const DataStore &store, MessageBoxes &boxes
 bool save(const Report &sheet, MessageBoxes &boxes, const QString &fileName,
           reportfile::Format fallback)
 {
-    const QString error = reportfile::save(
-        sheet, reportfile::formatForName(fileName).value_or(fallback), fileName);
+    const reportfile::Format format = reportfile::formatForName(fileName).value_or(fallback);
+    const QString target = reportfile::nameForFormat(fileName, format);
+    // The dialog asked before replacing the name as chosen, never the one written.
+    if (target != fileName && QFileInfo::exists(target)
+        && boxes.show({replaceQuestion.arg(QDir::toNativeSeparators(target)), appTitle,
+                       MessageIcon::Question, MessageButtons::YesNo, true})
+               != Answer::Yes)
+        return false;
+    const QString error = reportfile::save(sheet, format, target);
     if (!error.isEmpty())
         boxes.show({error, appTitle, MessageIcon::Critical});
     return error.isEmpty();

@@ -14,17 +14,24 @@ class QWidget;
  */
 namespace form27aactions {
 
+/// Asked before an export replaces a file that the dialog did not show: one at the name that
+/// the export's format gave the chosen name.
+inline const QString replaceQuestion =
+    QStringLiteral("%1 already exists.\nDo you want to replace it?");
+
 /// Print: the sheet in the viewer, captioned "Form 27A", beside the screen.
 void printForm27A(QWidget *parent, const DataStore &store, MessageBoxes &boxes,
                   const Form27AValues &values);
 
 /// Export: asks for a file (Excel, Document, Text or PDF) and writes the sheet in the format
-/// that the last three characters of its name ask for, else in that of the chosen filter.
+/// that the ending of its name asks for, else in that of the chosen filter, under the name
+/// that says what it holds (reportfile::nameForFormat).
 void exportForm27A(QWidget *parent, const DataStore &store, MessageBoxes &boxes,
                    const Form27AValues &values);
 
-/// Export to a named file without asking; fallback: the format for a name that asks for none.
-/// Returns whether the file was written; every failure has been shown.
+/// Export to a named file as exportForm27A() does, without the file dialog; fallback: the
+/// format for a name that asks for none. Returns whether the file was written; every failure
+/// has been shown.
 bool exportForm27ATo(const DataStore &store, MessageBoxes &boxes, const Form27AValues &values,
                      const QString &fileName, reportfile::Format fallback);
 

@@ -94,7 +94,7 @@ QMdiSubWindow *MdiMain::openScreen(const QString &screen)
     QWidget *widget = (*factory)();
     if (!widget)
         return nullptr; // a report without rows has said so instead of opening
-    return screenroutines::showInArea(m_area, widget);
+    return screenroutines::showInArea(m_area, widget, m_area->currentSubWindow());
 }
 
 QMdiSubWindow *MdiMain::findScreen(const QString &screen) const

@@ -92,6 +92,37 @@ private slots:
         QVERIFY(!m_screen->isVisible());
     }
 
+    // Opened again in the run, the screen stands at the group and quarter chosen last.
+    void opensAtTheLastChoice_data()
+    {
+        testsuite::columns<int, int, QString, QString>("group", "quarter", "company", "period");
+        QTest::newRow("second group, fourth quarter")
+            << 1 << 3 << "Beta Steel" << "From:01/01/2027 To:31/03/2027";
+        QTest::newRow("first group, third quarter")
+            << 0 << 2 << "Mehta Traders" << "From:01/10/2026 To:31/12/2026";
+    }
+    void opensAtTheLastChoice()
+    {
+        QFETCH(int, group);
+        QFETCH(int, quarter);
+        QFETCH(QString, company);
+        m_screen->findChild<QComboBox *>(QStringLiteral("CmbGroup"))->setCurrentIndex(group);
+        m_screen->findChild<QComboBox *>(QStringLiteral("cmbQuarter"))->setCurrentIndex(quarter);
+        m_list->setCurrentItem(m_list->findItems(company, Qt::MatchExactly).value(0));
+        m_screen->findChild<QPushButton *>(QStringLiteral("cmdSelect"))->click();
+        QVERIFY(m_boxes.shown.isEmpty());
+
+        FrmLogin again(*m_session, m_boxes);
+        QCOMPARE(again.findChild<QComboBox *>(QStringLiteral("CmbGroup"))->currentIndex(), group);
+        QCOMPARE(again.findChild<QLineEdit *>(QStringLiteral("txtGroup"))->text(),
+                 QString::number(group + 1));
+        auto *list = again.findChild<QTreeWidget *>(QStringLiteral("lstvComp"));
+        QVERIFY(!list->findItems(company, Qt::MatchExactly).isEmpty());
+        QCOMPARE(again.findChild<QComboBox *>(QStringLiteral("cmbQuarter"))->currentIndex(),
+                 quarter);
+        QTEST(again.findChild<QLabel *>(QStringLiteral("lblQuarter"))->text(), "period");
+    }
+
 private:
     QStringList rows() const
     {

@@ -1,4 +1,5 @@
 #include "core/money.h"
+#include "reports/reportbuilder.h"
 #include "reports/reportfile.h"
 #include "reports/reportformat.h"
 #include "reports/reportlayout.h"
@@ -43,6 +44,8 @@ private slots:
     void pagination();
     void lineBreaking_data();
     void lineBreaking();
+    void listColumns_data();
+    void listColumns();
     void indianAmount_data();
     void indianAmount();
     void formatForName_data();
@@ -134,6 +137,61 @@ void TestReportLayout::lineBreaking()
                                   + 2 * reportlayout::cellPaddingY);
 }
 
+// A list's columns are as wide as their texts: every line whole where the page has the room,
+// else every word; the lists under the same heads line up, and each fills the page's width.
+void TestReportLayout::listColumns_data()
+{
+    testsuite::columns<QStringList, QStringList, bool>("first", "second", "linesWhole");
+    const QString name = QStringLiteral("WHOLESALE TRADERS IN GRAIN AND PULSES ");
+    QTest::newRow("short texts")
+        << QStringList{"1", "AABCM7788Q", "KULKARNI BUILDERS", "100000.00", "18/04/2026"}
+        << QStringList{"2", "AAAPZ1111Z", "MEHTA ROADWAYS", "123456789.50", "25/04/2026"}
+        << true;
+    QTest::newRow("a long name")
+        << QStringList{"1", "AABCM7788Q", name.repeated(6), "100000.00", "18/04/2026"}
+        << QStringList{"2", "WWWWW9999W", "JOSHI", "123456789012.50", "25/04/2026"} << false;
+}
+
+void TestReportLayout::listColumns()
+{
+    QFETCH(QStringList, first);
+    QFETCH(QStringList, second);
+    QFETCH(bool, linesWhole);
+    const QList<ReportColumn> columns = {{"Sr.\nNo.", 0},
+                                         {"PAN", 0},
+                                         {"Deductee Name", 0},
+                                         {"Amount\npaid", 0, Qt::AlignRight},
+                                         {"Date of\npayment", 0}};
+    ReportBuilder builder;
+    builder.setOrientation(QPageLayout::Landscape);
+    builder.beginList(columns, true);
+    builder.row(first);
+    builder.text("Challan Sl. No. : 2");
+    builder.beginList(columns, true);
+    builder.row(second);
+    const Report report = builder.finish();
+
+    QList<double> lefts;
+    for (const ReportBand &band : report.bands()) {
+        if (band.list < 0)
+            continue;
+        QList<double> edges;
+        for (const ReportCell &cell : band.cells) {
+            edges.append(cell.left);
+            const QStringList words = QString(cell.text).replace(u'\n', u' ').split(u' ');
+            QCOMPARE(cell.lines.join(u' ').split(u' ', Qt::SkipEmptyParts),
+                     QStringList(words).filter(QRegularExpression(".")));
+            if (linesWhole)
+                QCOMPARE(cell.lines.size(), cell.text.count(u'\n') + 1);
+        }
+        QVERIFY(qAbs(band.cells.last().left + band.cells.last().width - 1) < 1e-9);
+        if (lefts.isEmpty())
+            lefts = edges;
+        QCOMPARE(edges, lefts);
+    }
+    QCOMPARE(lefts.size(), columns.size());
+}
+
 void TestReportLayout::indianAmount_data()
 {
     QTest::addColumn<qint64>("paise");
@@ -166,7 +224,9 @@ void TestReportLayout::formatForName_data()
     QTest::newRow("pdf") << "form.pdf" << std::optional(Format::Pdf);
     QTest::newRow("capitals are another ending") << "FORM.XLS" << std::optional<Format>();
     QTest::newRow("last three characters only") << "formxls" << std::optional(Format::Workbook);
-    QTest::newRow("longer ending") << "form.xlsx" << std::optional<Format>();
+    QTest::newRow("xlsx") << "form.xlsx" << std::optional(Format::Workbook);
+    QTest::newRow("odt") << "form.odt" << std::optional(Format::Document);
+    QTest::newRow("capitals of a longer ending") << "FORM.ODT" << std::optional<Format>();
     QTest::newRow("no ending") << "form" << std::optional<Format>();
 }
 

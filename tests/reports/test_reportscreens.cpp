@@ -11,6 +11,7 @@
 #include "support/scriptedmessageboxes.h"
 #include "support/testsuite.h"
 
+#include <QAbstractScrollArea>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,8 +22,12 @@
 #include <QMdiSubWindow>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTreeWidget>
 #include <QtTest>
+
+Q_DECLARE_METATYPE(Answer)
+Q_DECLARE_METATYPE(reportfile::Format)
 
 namespace {
 
@@ -78,11 +83,15 @@ private slots:
     void companyDetailsScreen_data();
     void companyDetailsScreen();
     void form27AButtons();
+    void form27AExports_data();
+    void form27AExports();
     void printingWithoutPrinter();
     void statementPrintouts_data();
     void statementPrintouts();
     void form16AScreen();
     void olderCertificateScreen();
+    void closingReturnsToTheOpener_data();
+    void closingReturnsToTheOpener();
 };
 
 void TestReportScreens::menuReportsSaveTheStoreAsPdf_data()
@@ -205,13 +214,7 @@ void TestReportScreens::form27AButtons()
     QCOMPARE(preview->windowTitle(), "Form 27A");
     QVERIFY(preview->report().text().contains("(a) Name Of Organisation\t" + trickyName));
 
-    // A name with an ending of no format takes the chosen filter's.
     QTemporaryDir folder;
-    const QString path = folder.filePath("FORM27A.XLS");
-    QVERIFY(form27aactions::exportForm27ATo(main.session.store, main.boxes, values, path,
-                                            reportfile::Format::Document));
-    QCOMPARE(zipMember(path, "mimetype"), "application/vnd.oasis.opendocument.text");
-
     values.compId = "2";
     form27aactions::printForm27A(statement, main.session.store, main.boxes, values);
     QVERIFY(!form27aactions::exportForm27ATo(main.session.store, main.boxes, values,
@@ -220,6 +223,78 @@ void TestReportScreens::form27AButtons()
     QCOMPARE(main.boxes.texts(), QStringList(2, "You need to first generate the Kelvora file"));
     QVERIFY(!QFile::exists(folder.filePath("other.txt")));
     QCOMPARE(main.window.mdiArea()->subWindowList().size(), 2);
+}
+
+// Each export is named by what it holds, whatever ending the user typed or the dialog proposed:
+// the ending asks for the format (exactly as typed), else the chosen filter does. A file that
+// the new name would replace, unseen in the dialog, is replaced only when the user says so.
+void TestReportScreens::form27AExports_data()
+{
+    testsuite::columns<QString, reportfile::Format, QString, Answer>("typed", "filter",
+                                                                    "written", "replace");
+    using reportfile::Format;
+    const QList<std::tuple<const char *, const char *, Format, const char *>> rows = {
+        {"xls", "form27a.xls", Format::Workbook, "form27a.xlsx"},
+        {"doc", "form27a.doc", Format::Document, "form27a.odt"},
+        {"doc under the Excel filter", "form27a.doc", Format::Workbook, "form27a.odt"},
+        {"txt", "form27a.txt", Format::Workbook, "form27a.txt"},
+        {"pdf", "form27a.pdf", Format::Document, "form27a.pdf"},
+        {"xlsx", "form27a.xlsx", Format::Pdf, "form27a.xlsx"},
+        {"odt", "form27a.odt", Format::Workbook, "form27a.odt"},
+        {"no ending", "form27a", Format::Pdf, "form27a.pdf"},
+        {"capitals ask for no format", "FORM27A.XLS", Format::Document, "FORM27A.XLS.odt"},
+        {"capitals under their filter", "FORM27A.XLS", Format::Workbook, "FORM27A.xlsx"}};
+    for (const auto &[name, typed, filter, written] : rows)
+        QTest::newRow(name) << typed << filter << written << Answer::None;
+    QTest::newRow("an earlier xlsx kept")
+        << "form27a.xls" << Format::Workbook << "form27a.xlsx" << Answer::No;
+    QTest::newRow("an earlier xlsx replaced")
+        << "form27a.xls" << Format::Workbook << "form27a.xlsx" << Answer::Yes;
+}
+
+void TestReportScreens::form27AExports()
+{
+    QFETCH(QString, typed);
+    QFETCH(reportfile::Format, filter);
+    QFETCH(QString, written);
+    QFETCH(Answer, replace);
+    Window main(reportsStore());
+    Form27AValues values;
+    values.compId = "1";
+    values.assessmentYear = assessmentYear;
+    QTemporaryDir folder;
+    const QString path = folder.filePath(written);
+    if (replace != Answer::None) {
+        QFile earlier(path);
+        QVERIFY(earlier.open(QIODevice::WriteOnly) && earlier.write("earlier") == 7);
+        main.boxes.answerNext(replace);
+    }
+
+    QCOMPARE(form27aactions::exportForm27ATo(main.session.store, main.boxes, values,
+                                             folder.filePath(typed), filter),
+             replace != Answer::No);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{written});
+    QCOMPARE(main.boxes.shown.size(), replace == Answer::None ? 0 : 1);
+    if (replace != Answer::None) {
+        QCOMPARE(main.boxes.shown.first(),
+                 Message({form27aactions::replaceQuestion.arg(QDir::toNativeSeparators(path)),
+                          appTitle, MessageIcon::Question, MessageButtons::YesNo, true}));
+    }
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    if (replace == Answer::No) {
+        QCOMPARE(bytes, "earlier");
+    } else if (written.endsWith(".xlsx")) {
+        QVERIFY(bytes.startsWith("PK\x03\x04"));
+        QVERIFY(zipMember(path, "xl/workbook.xml").contains("spreadsheetml"));
+    } else if (written.endsWith(".odt")) {
+        QCOMPARE(zipMember(path, "mimetype"), "application/vnd.oasis.opendocument.text");
+    } else if (written.endsWith(".pdf")) {
+        QVERIFY(bytes.startsWith("%PDF-"));
+    } else {
+        QVERIFY(bytes.contains("FORM NO. 27A"));
+    }
 }
 
 void TestReportScreens::printingWithoutPrinter()
@@ -247,6 +322,7 @@ void TestReportScreens::statementPrintouts()
     QFETCH(QString, button);
     QFETCH(QString, viewer);
     Window main(reportsStore());
+    main.window.resize(1366, 700); // the office laptop's display
     QWidget *screen = main.select("mnuPrintForm26", company, "FrmReport");
     QVERIFY(screen);
     QCOMPARE(screen->findChild<QLineEdit *>("txtCompName")->text(), company);
@@ -260,6 +336,12 @@ void TestReportScreens::statementPrintouts()
     ReportPreview *preview = main.preview(viewer);
     QVERIFY(preview);
     QVERIFY(preview->report().text().contains("ZETA TRADERS"));
+    // At 100% the whole width of the page, landscape or upright, is in sight.
+    QCOMPARE(preview->findChild<QComboBox *>("cmbZoom")->currentText(), "100%");
+    auto *pages = preview->findChild<QAbstractScrollArea *>("crViewer");
+    QCOMPARE(pages->horizontalScrollBar()->maximum(), 0);
+    QVERIFY(main.window.mdiArea()->viewport()->rect().contains(
+        preview->parentWidget()->geometry()));
 }
 
 void TestReportScreens::form16AScreen()
@@ -311,6 +393,59 @@ void TestReportScreens::olderCertificateScreen()
     QVERIFY(preview);
     // The row keys 1 to 3 of every 26Q Statement, as this path has always read them.
     QCOMPARE(preview->report().text().count("FORM NO. 16A"), 7);
+}
+
+// The window that a child opened from (or the one in front when the menu opened it) comes to
+// the front when the child closes, although other screens were opened before it, and no other
+// window comes up on the way: not even when a question of the child took the keyboard away
+// from the main window, which gets it back after the window has closed.
+void TestReportScreens::closingReturnsToTheOpener_data()
+{
+    testsuite::columns<QString, QString>("opener", "child");
+    QTest::newRow("report viewer") << "FrmReport" << "crChallan26";
+    QTest::newRow("show forms") << "FrmReport" << "frmShowForms";
+    QTest::newRow("printing screen, through the selection")
+        << "frmCategoryMaster" << "FrmReport";
+    QTest::newRow("statement asking first, through the selection")
+        << "frmForm26" << "frmForm24";
+}
+
+void TestReportScreens::closingReturnsToTheOpener()
+{
+    QFETCH(QString, opener);
+    QFETCH(QString, child);
+    Window main(reportsStore());
+    QApplication::setActiveWindow(&main.window); // the focus moves as the user sees it
+    QMdiArea *area = main.window.mdiArea();
+    const auto open = [&main, area](const QString &screen) {
+        const QHash<QString, QString> selected = {{"FrmReport", "mnuPrintForm26"},
+                                                  {"frmForm26", "mnuForm26"},
+                                                  {"frmForm24", "mnuform24"}};
+        if (selected.contains(screen))
+            main.select(selected[screen], "ZETA TRADERS", screen);
+        else if (screen == u"crChallan26")
+            area->currentSubWindow()->widget()->findChild<QPushButton *>("cmdChalln")->click();
+        else
+            main.trigger(screen == u"frmShowForms" ? "Tool(2)" : "mnuMaster(6)");
+        return main.window.findScreen(screen);
+    };
+    main.trigger("mnuMaster(0)");
+    main.trigger("mnuMaster(2)");
+    QMdiSubWindow *front = open(opener);
+    const QList<QMdiSubWindow *> stacked = area->subWindowList(QMdiArea::StackingOrder);
+    QMdiSubWindow *frame = open(child);
+    QVERIFY(front && frame && front != frame);
+    QCOMPARE(area->currentSubWindow(), frame);
+    const bool asks = child.startsWith(u"frmForm");
+    if (asks) {
+        main.boxes.answerNext(Answer::No);
+        QApplication::setActiveWindow(nullptr);
+    }
+    QVERIFY(frame->close());
+    QApplication::setActiveWindow(&main.window);
+    QCOMPARE(main.boxes.texts().size(), asks ? 1 : 0);
+    QCOMPARE(area->currentSubWindow(), front);
+    QCOMPARE(area->subWindowList(QMdiArea::StackingOrder), stacked);
 }
 
 KELVORA_TEST_OBJECT(TestReportScreens);

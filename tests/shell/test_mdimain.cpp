@@ -217,35 +217,60 @@ private slots:
     }
 
     // On the office laptop's 1366x768 display (the maximized window below its title bar and
-    // above the desktop's panel) every command button of a screen is in sight, none past the
-    // edge of the area where only scrolling would show it.
-    void buttonsInsideTheArea_data()
+    // above the desktop's panel) every screen stands wholly in the area, opened alone or after
+    // others, and so every command button of it is in sight, none past the edge of the area
+    // where only scrolling would show it. The viewers and the printing screen stand at the top
+    // left each time, the import in the middle.
+    void screensInsideTheArea_data()
     {
-        testsuite::columns<QString, bool>("entry", "select");
-        for (const char *entry : {"mnuMaster(0)", "mnuMaster(1)", "mnuMaster(2)", "mnuMaster(3)",
-                                  "mnuMaster(4)", "mnuMaster(6)", "mnuMaster(7)", "Tool(2)",
-                                  "mnuImpData", "mnuGroupMaster", "mnuGroupWiseCompanyDetails",
-                                  "mnuGroupwiseCompanyList", "mnuCertificate16A"})
-            QTest::newRow(entry) << entry << false;
-        QTest::newRow("selection") << "mnuForm26" << false;
-        for (const char *entry : {"mnuform24", "mnuForm26", "mnuForm27", "mnuForm27E",
-                                  "mnuPrintForm26", "mnuForm16A26Q"})
-            QTest::newRow(entry) << entry << true;
+        testsuite::columns<QString, bool, QStringList, QString>("entry", "select", "before",
+                                                                 "place");
+        const QList<std::pair<const char *, QStringList>> befores = {
+            {"alone", {}},
+            {"second", {"mnuMaster(3)"}},
+            {"third", {"mnuMaster(0)", "mnuMaster(4)"}}};
+        const QList<std::tuple<const char *, bool, const char *>> entries = {
+            {"mnuMaster(0)", false, ""}, {"mnuMaster(1)", false, ""},
+            {"mnuMaster(2)", false, ""}, {"mnuMaster(3)", false, ""},
+            {"mnuMaster(4)", false, ""}, {"mnuMaster(6)", false, ""},
+            {"mnuMaster(7)", false, ""}, {"Tool(2)", false, ""},
+            {"mnuImpData", false, "middle"}, {"mnuGroupMaster", false, "top left"},
+            {"mnuGroupWiseCompanyDetails", false, ""},
+            {"mnuGroupwiseCompanyList", false, "top left"}, {"mnuCertificate16A", false, ""},
+            {"mnuForm26", false, ""}, {"mnuform24", true, ""}, {"mnuForm26", true, ""},
+            {"mnuForm27", true, ""}, {"mnuForm27E", true, ""},
+            {"mnuPrintForm26", true, "top left"}, {"mnuForm16A26Q", true, ""}};
+        for (const auto &[when, before] : befores) {
+            for (const auto &[entry, select, place] : entries) {
+                QTest::addRow("%s%s %s", entry, select ? " selected" : "", when)
+                    << entry << select << before << place;
+            }
+        }
     }
-    void buttonsInsideTheArea()
+    void screensInsideTheArea()
     {
         QFETCH(QString, entry);
         QFETCH(bool, select);
+        QFETCH(QStringList, before);
+        QFETCH(QString, place);
         Fixture f;
         f.window.resize(1366, 700);
+        for (const QString &earlier : before)
+            QVERIFY(f.openThrough(earlier, false));
         QWidget *screen = f.openThrough(entry, select);
         QVERIFY(screen);
         QWidget *viewport = f.window.mdiArea()->viewport();
+        const QRect frame = screen->parentWidget()->geometry();
+        QVERIFY(viewport->rect().contains(frame));
         for (const QAbstractButton *button : screen->findChildren<QAbstractButton *>()) {
-            const QRect place(button->mapTo(viewport, QPoint(0, 0)), button->size());
-            QVERIFY2(!button->isVisible() || viewport->rect().contains(place),
+            const QRect spot(button->mapTo(viewport, QPoint(0, 0)), button->size());
+            QVERIFY2(!button->isVisible() || viewport->rect().contains(spot),
                      qPrintable(button->objectName()));
         }
+        if (place == u"top left")
+            QCOMPARE(frame.topLeft(), QPoint(0, 0));
+        if (place == u"middle")
+            QVERIFY((frame.center() - viewport->rect().center()).manhattanLength() <= 2);
     }
 
     // Alt and a letter of the active screen moves to its field although the menu bar has it.
