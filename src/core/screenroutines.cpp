@@ -47,6 +47,19 @@ QMdiSubWindow *showInArea(QMdiArea *area, QWidget *screen, QMdiSubWindow *opener
     return frame;
 }
 
+void openBeside(QWidget *beside, QWidget *screen)
+{
+    for (QWidget *widget = beside; widget; widget = widget->parentWidget()) {
+        if (auto *frame = qobject_cast<QMdiSubWindow *>(widget); frame && frame->mdiArea()) {
+            showInArea(frame->mdiArea(), screen, frame);
+            return;
+        }
+    }
+    screen->setParent(beside ? beside->window() : nullptr, Qt::Window);
+    screen->setAttribute(Qt::WA_DeleteOnClose);
+    screen->show();
+}
+
 void closeScreen(QWidget *screen)
 {
     if (auto *frame = qobject_cast<QMdiSubWindow *>(screen->parentWidget()))

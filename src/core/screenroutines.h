@@ -31,6 +31,11 @@ void setPlacement(QWidget *screen, Placement placement);
 /// screen was opened from, to the front again; the window goes when it is closed.
 QMdiSubWindow *showInArea(QMdiArea *area, QWidget *screen, QMdiSubWindow *opener);
 
+/// Shows a screen beside the one it is opened from: in the main window's area when that screen
+/// stands in it, returning to it when closed; otherwise in a window of its own. The screen goes
+/// when it is closed.
+void openBeside(QWidget *beside, QWidget *screen);
+
 /// A key press of Enter, on the main keyboard or the keypad: entry moves along the fields on it.
 bool isEnterKey(const QEvent *event);
 

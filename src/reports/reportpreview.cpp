@@ -12,8 +12,6 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -147,15 +145,7 @@ ReportPreview *ReportPreview::open(QWidget *beside, std::shared_ptr<const Report
                                    MessageBoxes &boxes, const QString &name)
 {
     auto *preview = new ReportPreview(std::move(report), boxes, name);
-    for (QWidget *widget = beside; widget; widget = widget->parentWidget()) {
-        if (auto *frame = qobject_cast<QMdiSubWindow *>(widget); frame && frame->mdiArea()) {
-            screenroutines::showInArea(frame->mdiArea(), preview, frame);
-            return preview;
-        }
-    }
-    preview->setParent(beside ? beside->window() : nullptr, Qt::Window);
-    preview->setAttribute(Qt::WA_DeleteOnClose);
-    preview->show();
+    screenroutines::openBeside(beside, preview);
     return preview;
 }
 

@@ -2,24 +2,15 @@
 
 #include "core/messageboxes.h"
 #include "core/storeerror.h"
+#include "reports/reportexport.h"
 #include "reports/reportpreview.h"
 #include "returnfile/form27a.h"
-
-#include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
 
 namespace form27aactions {
 
 namespace {
 
-struct ExportFilter
-{
-    const char *filter;
-    reportfile::Format format;
-};
-
-constexpr ExportFilter exportFilters[] = {
+constexpr reportexport::Filter exportFilters[] = {
     {"Excel File (*.xlsx)", reportfile::Format::Workbook},
     {"Document File (*.odt)", reportfile::Format::Document},
     {"Text File (*.txt)", reportfile::Format::PlainText},
@@ -40,23 +31,6 @@ std::optional<Report> sheetOrMessage(const DataStore &store, MessageBoxes &boxes
     }
 }
 
-bool save(const Report &sheet, MessageBoxes &boxes, const QString &fileName,
-          reportfile::Format fallback)
-{
-    const reportfile::Format format = reportfile::formatForName(fileName).value_or(fallback);
-    const QString target = reportfile::nameForFormat(fileName, format);
-    // The dialog asked before replacing the name as chosen, never the one written.
-    if (target != fileName && QFileInfo::exists(target)
-        && boxes.show({replaceQuestion.arg(QDir::toNativeSeparators(target)), appTitle,
-                       MessageIcon::Question, MessageButtons::YesNo, true})
-               != Answer::Yes)
-        return false;
-    const QString error = reportfile::save(sheet, format, target);
-    if (!error.isEmpty())
-        boxes.show({error, appTitle, MessageIcon::Critical});
-    return error.isEmpty();
-}
-
 } // namespace
 
 void printForm27A(QWidget *parent, const DataStore &store, MessageBoxes &boxes,
@@ -71,31 +45,17 @@ void printForm27A(QWidget *parent, const DataStore &store, MessageBoxes &boxes,
 void exportForm27A(QWidget *parent, const DataStore &store, MessageBoxes &boxes,
                    const Form27AValues &values)
 {
-    const std::optional<Report> sheet = sheetOrMessage(store, boxes, values);
-    if (!sheet)
-        return;
-    QStringList filters;
-    for (const ExportFilter &filter : exportFilters)
-        filters.append(QLatin1String(filter.filter));
-    QString chosenFilter = filters.first();
-    const QString fileName = QFileDialog::getSaveFileName(
-        parent, QStringLiteral("Export Form 27A"), QDir::homePath(),
-        filters.join(QStringLiteral(";;")), &chosenFilter);
-    if (fileName.trimmed().isEmpty())
-        return;
-    reportfile::Format fallback = exportFilters[0].format;
-    for (const ExportFilter &filter : exportFilters) {
-        if (chosenFilter == QLatin1String(filter.filter))
-            fallback = filter.format;
+    if (const std::optional<Report> sheet = sheetOrMessage(store, boxes, values)) {
+        reportexport::exportReport(parent, QStringLiteral("Export Form 27A"), *sheet, boxes,
+                                   exportFilters);
     }
-    save(*sheet, boxes, fileName, fallback);
 }
 
 bool exportForm27ATo(const DataStore &store, MessageBoxes &boxes, const Form27AValues &values,
                      const QString &fileName, reportfile::Format fallback)
 {
     const std::optional<Report> sheet = sheetOrMessage(store, boxes, values);
-    return sheet && save(*sheet, boxes, fileName, fallback);
+    return sheet && reportexport::saveAs(*sheet, boxes, fileName, fallback);
 }
 
 } // namespace form27aactions

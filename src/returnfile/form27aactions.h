@@ -14,11 +14,6 @@ class QWidget;
  */
 namespace form27aactions {
 
-/// Asked before an export replaces a file that the dialog did not show: one at the name that
-/// the export's format gave the chosen name.
-inline const QString replaceQuestion =
-    QStringLiteral("%1 already exists.\nDo you want to replace it?");
-
 /// Print: the sheet in the viewer, captioned "Form 27A", beside the screen.
 void printForm27A(QWidget *parent, const DataStore &store, MessageBoxes &boxes,
                   const Form27AValues &values);

@@ -4,6 +4,7 @@
 #include "reports/frmform16report.h"
 #include "reports/frmgroupwisecompanydetails.h"
 #include "reports/report.h"
+#include "reports/reportexport.h"
 #include "reports/reportpreview.h"
 #include "returnfile/form27aactions.h"
 #include "shell/mdimain.h"
@@ -277,7 +278,7 @@ void TestReportScreens::form27AExports()
     QCOMPARE(main.boxes.shown.size(), replace == Answer::None ? 0 : 1);
     if (replace != Answer::None) {
         QCOMPARE(main.boxes.shown.first(),
-                 Message({form27aactions::replaceQuestion.arg(QDir::toNativeSeparators(path)),
+                 Message({reportexport::replaceQuestion.arg(QDir::toNativeSeparators(path)),
                           appTitle, MessageIcon::Question, MessageButtons::YesNo, true}));
     }
     QFile file(path);
