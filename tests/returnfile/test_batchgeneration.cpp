@@ -155,6 +155,7 @@ private slots:
         QTest::newRow("device") << "device" << "KAV" << 3 << notPlain;
         QTest::newRow("FIFO") << "fifo" << "KAV" << 3 << notPlain;
         QTest::newRow("folder") << "folder" << "KAV" << 3 << notPlain;
+        QTest::newRow("link to a file") << "link" << "KAV" << 3 << notPlain;
         QTest::newRow("full disk") << "full" << "KAV" << 3 << "No space left on device";
         QTest::newRow("prefix of the root") << "" << "/" << 1 << prefix.arg("/");
         QTest::newRow("prefix climbing out") << "" << "../" << 1 << prefix.arg("../");
@@ -193,12 +194,16 @@ private slots:
             QCOMPARE(mkfifo(native, 0666), 0);
         else if (target == u"folder")
             QVERIFY(QDir().mkdir(output));
+        else if (target == u"link")
+            QVERIFY(QFile::link(targets.filePath("kept"), output));
         else if (target == u"full" && !mounted)
             QSKIP("a full disk needs a small file system, which only root may mount");
         else if (target == u"in use")
             QVERIFY(lock.take());
-        QFile filler(target == u"full" ? targets.filePath("filler") : store);
-        if (target == u"full" || target == u"empty.db")
+        QFile filler(target == u"full"   ? targets.filePath("filler")
+                     : target == u"link" ? targets.filePath("kept")
+                                         : store);
+        if (target == u"full" || target == u"empty.db" || target == u"link")
             QVERIFY(filler.open(QIODevice::WriteOnly));
         while (target == u"full" && filler.write(QByteArray(4096, 'x')) == 4096 && filler.flush())
             ;
@@ -209,7 +214,8 @@ private slots:
                    + QDir(data.folder() + "/eReturns").entryList(all);
         };
         const QStringList before = listing();
-        const bool toOutput = QStringList{"device", "fifo", "folder", "full"}.contains(target);
+        const bool toOutput =
+            QStringList{"device", "fifo", "folder", "link", "full"}.contains(target);
 
         const Run run = this->run("--form 26Q --quarter Q2 --company 11 --wait 0"
                                       + (toOutput ? " --output " + output : QString()),
@@ -220,7 +226,9 @@ private slots:
                  qPrintable(run.err));
         // Neither a plain file put in place of another kind, nor a file anywhere else.
         QCOMPARE(listing(), before);
-        QVERIFY(target == u"full" || !QFileInfo(output).isFile());
+        QVERIFY(target == u"full" || target == u"link" || !QFileInfo(output).isFile());
+        QCOMPARE(QFileInfo(output).isSymLink(), target == u"link");
+        QCOMPARE(QFileInfo(targets.filePath("kept")).size(), 0); // not written through
     }
 
 private:
