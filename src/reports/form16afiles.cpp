@@ -47,11 +47,6 @@ Form16AFiles::Outcome Form16AFiles::write(const QString &folder, int companyId,
                                           int groupId, const Progress &progress)
 {
     Outcome outcome;
-    if (!QDir().mkpath(folder)) {
-        outcome.error = QStringLiteral("The folder %1 could not be made.")
-                            .arg(QDir::toNativeSeparators(folder));
-        return outcome;
-    }
     // Putting the fonts into a PDF costs far more than drawing the pages, so the certificates
     // are drawn a run of deductees at a time into one PDF that is then cut per deductee, by a
     // few threads that live for the whole run. The files are written and told in the order
@@ -79,6 +74,14 @@ Form16AFiles::Outcome Form16AFiles::write(const QString &folder, int companyId,
             return;
         if (!drawn.files) {
             outcome.error = drawn.error;
+            going = false;
+            return;
+        }
+        // The folder is made for the first file, so that a run with nothing to certify
+        // leaves none behind.
+        if (outcome.written == 0 && !QDir().mkpath(folder)) {
+            outcome.error = QStringLiteral("The folder %1 could not be made.")
+                                .arg(QDir::toNativeSeparators(folder));
             going = false;
             return;
         }
@@ -114,8 +117,8 @@ Form16AFiles::Outcome Form16AFiles::write(const QString &folder, int companyId,
         if (pending.size() >= inFlight)
             finishFirst();
     };
-    Form16ACertificateReader reader(
-        m_tables.certificateRows(companyId, quarter, deducteeIds, groupId));
+    Form16ACertificateReader reader(m_tables.masterRows(companyId, quarter, deducteeIds, groupId),
+                                    Form16ACertificateReader::Deductee::ByMaster);
     for (QList<Form16ACertificate> certificates = reader.nextDeductee();
          going && !certificates.isEmpty(); certificates = reader.nextDeductee()) {
         const Form16ACertificate &first = certificates.first();
