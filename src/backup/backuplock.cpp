@@ -3,7 +3,7 @@
 #include "backup/backuperror.h"
 
 std::unique_ptr<StoreLock> takeBackupLock(const QString &path, const QString &what,
-                                          std::chrono::milliseconds wait)
+                                          std::chrono::milliseconds wait, LockNotMade notMade)
 {
     auto lock = std::make_unique<StoreLock>(path);
     if (lock->take(wait))
@@ -13,6 +13,8 @@ std::unique_ptr<StoreLock> takeBackupLock(const QString &path, const QString &wh
                           QStringLiteral("%1 is in use by %2. Close that program, then try "
                                          "again.").arg(what, lock->holder()));
     }
+    if (notMade == LockNotMade::GoWithout)
+        return nullptr;
     throw BackupError(BackupError::Refused, QStringLiteral("%1 cannot be used: %2.")
                                                 .arg(what, lock->failureText()));
 }

@@ -33,7 +33,7 @@ BackupTarget::BackupTarget(const QString &folder, std::chrono::milliseconds lock
     std::error_code error;
     std::filesystem::create_directories(std::filesystem::path(m_folder.toStdU16String()), error);
     if (error || !QFileInfo(m_folder).isDir()) {
-        m_made.clear();
+        release();
         const QString reason = error ? QString::fromStdString(error.message())
                                      : QStringLiteral("another file has that name");
         throw BackupError(BackupError::FileSystem, QStringLiteral("The folder %1 cannot be "
@@ -41,10 +41,14 @@ BackupTarget::BackupTarget(const QString &folder, std::chrono::milliseconds lock
                                                        .arg(shown(folder), reason));
     }
     try {
-        // The lock is a file of the folder's own, named as no backup is.
+        // The lock is a file of the folder's own, named as no backup is. A folder that cannot
+        // take even that (a full disk) cannot take the copy either, which says why; without
+        // the lock no unfinished copy is known to be a leftover.
         m_lock = takeBackupLock(QDir(m_folder).filePath(QStringLiteral("Kelvora-backup")),
                                 QStringLiteral("The backup folder %1").arg(shown(m_folder)),
-                                lockWait);
+                                lockWait, LockNotMade::GoWithout);
+        if (!m_lock)
+            return;
         // Whoever wrote these is gone: a live run would hold the lock.
         for (const QString &unfinished : backupfolder::unfinishedIn(m_folder)) {
             QFile file(unfinished);
@@ -73,7 +77,7 @@ void BackupTarget::release()
         return;
     // Only what was made for this, and only while it is empty.
     for (const QString &folder : std::as_const(m_made)) {
-        if (!QDir().rmdir(folder))
+        if (QFileInfo::exists(folder) && !QDir().rmdir(folder))
             break;
     }
     m_made.clear();

@@ -34,7 +34,8 @@ BackupError fileSystem(const QString &text)
 
 std::unique_ptr<StoreLock> lockStore(const QString &path, std::chrono::milliseconds wait)
 {
-    return takeBackupLock(path, QStringLiteral("The data store %1").arg(shown(path)), wait);
+    return takeBackupLock(path, QStringLiteral("The data store %1").arg(shown(path)), wait,
+                          LockNotMade::Refuse);
 }
 
 /// Removes an unfinished copy and SQLite's journal of it.
@@ -79,11 +80,11 @@ void copyBytes(const QString &from, const QString &target)
         return fileSystem(QStringLiteral("%1 cannot be %2: %3")
                               .arg(shown(file.fileName()), what, file.errorString()));
     };
+    if (!source.open(QIODevice::ReadOnly))
+        throw cannot(QStringLiteral("read"), source);
+    if (!copy.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        throw cannot(QStringLiteral("written"), copy);
     try {
-        if (!source.open(QIODevice::ReadOnly))
-            throw cannot(QStringLiteral("read"), source);
-        if (!copy.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-            throw cannot(QStringLiteral("written"), copy);
         constexpr qint64 blockSize = 1 << 20;
         while (!source.atEnd()) {
             const QByteArray block = source.read(blockSize);
