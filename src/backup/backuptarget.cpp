@@ -3,11 +3,11 @@
 #include "backup/backuperror.h"
 #include "backup/backupfolder.h"
 #include "backup/backuplock.h"
+#include "core/wholefile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <filesystem>
 
 namespace {
 
@@ -30,15 +30,12 @@ BackupTarget::BackupTarget(const QString &folder, std::chrono::milliseconds lock
     for (QString missing = m_folder; !QFileInfo::exists(missing) && !QDir(missing).isRoot();
          missing = QFileInfo(missing).path())
         m_made << missing;
-    std::error_code error;
-    std::filesystem::create_directories(std::filesystem::path(m_folder.toStdU16String()), error);
-    if (error || !QFileInfo(m_folder).isDir()) {
+    const QString notMade = wholefile::makeFolder(m_folder);
+    if (!notMade.isEmpty()) {
         release();
-        const QString reason = error ? QString::fromStdString(error.message())
-                                     : QStringLiteral("another file has that name");
         throw BackupError(BackupError::FileSystem, QStringLiteral("The folder %1 cannot be "
                                                                   "made: %2.")
-                                                       .arg(shown(folder), reason));
+                                                       .arg(shown(folder), notMade));
     }
     try {
         // The lock is a file of the folder's own, named as no backup is. A folder that cannot

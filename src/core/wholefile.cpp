@@ -2,6 +2,7 @@
 
 #include <QFileDevice>
 #include <QFileInfo>
+#include <filesystem>
 
 namespace wholefile {
 
@@ -11,6 +12,15 @@ QString refusal(const QString &path)
     // A link that points nowhere does not exist, yet a write would make the file it names.
     if (target.isSymLink() || (target.exists() && !target.isFile()))
         return QStringLiteral("that name is not a plain file, and it is left as it is");
+    return {};
+}
+
+QString makeFolder(const QString &path)
+{
+    std::error_code error;
+    std::filesystem::create_directories(std::filesystem::path(path.toStdU16String()), error);
+    if (error)
+        return QString::fromStdString(error.message());
     return {};
 }
 

@@ -17,6 +17,10 @@ namespace wholefile {
  */
 QString refusal(const QString &path);
 
+/// Makes the folder @p path and the missing folders above it; the system's reason in words
+/// when that fails, empty when the folder is there.
+QString makeFolder(const QString &path);
+
 /// Writes all of @p bytes to the open @p file; false when they do not all go, with the system's
 /// reason (a full disk) in the file's errorString().
 bool write(QFileDevice &file, QByteArrayView bytes);

@@ -1,6 +1,7 @@
 #include "reports/form16afiles.h"
 
 #include "core/namepart.h"
+#include "core/wholefile.h"
 #include "reports/form16aworktables.h"
 #include "reports/pdfbatch.h"
 #include "reports/reportfile.h"
@@ -79,9 +80,10 @@ Form16AFiles::Outcome Form16AFiles::write(const QString &folder, int companyId,
         }
         // The folder is made for the first file, so that a run with nothing to certify
         // leaves none behind.
-        if (outcome.written == 0 && !QDir().mkpath(folder)) {
-            outcome.error = QStringLiteral("The folder %1 could not be made.")
-                                .arg(QDir::toNativeSeparators(folder));
+        const QString notMade = outcome.written == 0 ? wholefile::makeFolder(folder) : QString();
+        if (!notMade.isEmpty()) {
+            outcome.error = QStringLiteral("The folder %1 could not be made: %2.")
+                                .arg(QDir::toNativeSeparators(folder), notMade);
             going = false;
             return;
         }

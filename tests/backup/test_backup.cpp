@@ -259,6 +259,8 @@ private slots:
         const QByteArray err = process.readAllStandardError();
         if (status != BackupCommand::UsageError)
             QCOMPARE(err.count('\n'), status == 0 ? 0 : 1);
+        if (to == u"file")
+            QVERIFY2(err.endsWith(" cannot be made: Not a directory.\n"), err.constData());
 
         QStringList names;
         for (const QString &backup : backupfolder::backupsIn(folder())) {

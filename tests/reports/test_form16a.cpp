@@ -290,6 +290,10 @@ void TestForm16A::frontEnd()
     } else {
         QVERIFY(!err.isEmpty());
     }
+    if (arguments.contains(file.fileName())) {
+        QCOMPARE(err, "kelvora-certificates: The folder " + file.fileName()
+                          + " could not be made: Not a directory.\n");
+    }
 }
 
 // A file is one deductee master's, read by its id: two masters of one name (in any case) get
