@@ -227,75 +227,6 @@ void TestForm16A::certificateAsPdf()
                    "Five Thousand and Twenty Five paise only."});
 }
 
-void TestForm16A::frontEnd_data()
-{
-    testsuite::columns<QStringList, int, QStringList>("arguments", "status", "files");
-    const QStringList company1{"--form", "26Q", "--quarter", "Q1", "--company", "1"};
-    const QStringList zubin{"AAAPZ1111Z_ZUBIN_MEHTA.pdf"};
-    QTest::newRow("every deductee, a file each")
-        << company1 << 0 << QStringList{"AAAPA2222A_O_Brien_Sons.pdf", zubin.first()};
-    QTest::newRow("company by TAN, deductee by PAN")
-        << QStringList{"--form", "26q", "--quarter", "q1", "--company", "CALZ12345A",
-                       "--deductee", "AAAPZ1111Z"}
-        << 0 << zubin;
-    QTest::newRow("deductee by name in any case")
-        << company1 + QStringList{"--deductee", "zubin mehta"} << 0 << zubin;
-    QTest::newRow("unknown deductee") << company1 + QStringList{"--deductee", "NOBODY"} << 1
-                                      << QStringList();
-    QTest::newRow("a quarter without rows")
-        << QStringList{"--form", "26Q", "--quarter", "Q3", "--company", "1"} << 1
-        << QStringList();
-    QTest::newRow("unknown company")
-        << QStringList{"--form", "26Q", "--quarter", "Q1", "--company", "99"} << 1
-        << QStringList();
-    QTest::newRow("24Q has no certificates")
-        << QStringList{"--form", "24Q", "--quarter", "Q1", "--company", "1"} << 2
-        << QStringList();
-    QTest::newRow("no quarter") << QStringList{"--form", "26Q", "--company", "1"} << 2
-                                << QStringList();
-    QTest::newRow("a wait that is no number") << company1 + QStringList{"--wait", "soon"} << 2
-                                              << QStringList();
-    QTest::newRow("no such store") << company1 + QStringList{"--store", "/nonexistent/K.db"} << 3
-                                   << QStringList();
-    QTest::newRow("output is a file") << company1 + QStringList{"--output", "FILE"} << 3
-                                      << QStringList();
-}
-
-void TestForm16A::frontEnd()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, status);
-    QFETCH(QStringList, files);
-    QTemporaryDir folder;
-    const QString output = folder.filePath("certificates");
-    QFile file(folder.filePath("a file"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    arguments.replaceInStrings(QRegularExpression("^FILE$"), file.fileName());
-    // The last of an option given twice counts: the cases' own store and folder win.
-    arguments = QStringList{"--store", reportsStore().store().path(), "--output", output}
-                + arguments;
-
-    QString out;
-    QString err;
-    QCOMPARE(runBatch(arguments, out, err), status);
-    QCOMPARE(QDir(output).entryList(QDir::Files, QDir::Name), files);
-    // Nothing to certify makes no folder.
-    QCOMPARE(QFileInfo::exists(output), !files.isEmpty());
-    if (status == 0) {
-        QVERIFY2(err.isEmpty(), qPrintable(err));
-        QCOMPARE(out.count('\n'), files.size() + 1);
-        QVERIFY(out.endsWith(QStringLiteral("%1 file%2 written\n")
-                                 .arg(files.size())
-                                 .arg(files.size() == 1 ? "" : "s")));
-    } else {
-        QVERIFY(!err.isEmpty());
-    }
-    if (arguments.contains(file.fileName())) {
-        QCOMPARE(err, "kelvora-certificates: The folder " + file.fileName()
-                          + " could not be made: Not a directory.\n");
-    }
-}
-
 // A file is one deductee master's, read by its id: two masters of one name (in any case) get
 // a file each with their own rows once, and a name with an outer blank or line break, which
 // the words of the print lose, still gets its certificate.
@@ -400,6 +331,84 @@ void TestForm16A::refusedTargets()
         QFile file(linked);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), "kept");
+    }
+}
+
+
+void TestForm16A::frontEnd_data()
+{
+    testsuite::columns<QStringList, int, QStringList>("arguments", "status", "files");
+    const QStringList company1{"--form", "26Q", "--quarter", "Q1", "--company", "1"};
+    const QStringList zubin{"AAAPZ1111Z_ZUBIN_MEHTA.pdf"};
+    QTest::newRow("every deductee, a file each")
+        << company1 << 0 << QStringList{"AAAPA2222A_O_Brien_Sons.pdf", zubin.first()};
+    QTest::newRow("company by TAN, deductee by PAN")
+        << QStringList{"--form", "26q", "--quarter", "q1", "--company", "CALZ12345A",
+                       "--deductee", "AAAPZ1111Z"}
+        << 0 << zubin;
+    QTest::newRow("deductee by name in any case")
+        << company1 + QStringList{"--deductee", "zubin mehta"} << 0 << zubin;
+    QTest::newRow("unknown deductee") << company1 + QStringList{"--deductee", "NOBODY"} << 1
+                                      << QStringList();
+    QTest::newRow("a quarter without rows")
+        << QStringList{"--form", "26Q", "--quarter", "Q3", "--company", "1"} << 1
+        << QStringList();
+    QTest::newRow("unknown company")
+        << QStringList{"--form", "26Q", "--quarter", "Q1", "--company", "99"} << 1
+        << QStringList();
+    QTest::newRow("24Q has no certificates")
+        << QStringList{"--form", "24Q", "--quarter", "Q1", "--company", "1"} << 2
+        << QStringList();
+    QTest::newRow("no quarter") << QStringList{"--form", "26Q", "--company", "1"} << 2
+                                << QStringList();
+    QTest::newRow("a wait that is no number") << company1 + QStringList{"--wait", "soon"} << 2
+                                              << QStringList();
+    QTest::newRow("no such store") << company1 + QStringList{"--store", "/nonexistent/K.db"} << 3
+                                   << QStringList();
+    QTest::newRow("output is a file") << company1 + QStringList{"--output", "FILE"} << 3
+                                      << QStringList();
+}
+
+void TestForm16A::frontEnd()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QStringList, files);
+    QTemporaryDir folder;
+    const QString output = folder.filePath("certificates");
+    QFile file(folder.filePath("a file"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    arguments.replaceInStrings(QRegularExpression("^FILE$"), file.fileName());
+    // The last of an option given twice counts: the cases' own store and folder win.
+    arguments = QStringList{"kelvora-certificates", "--store", reportsStore().store().path(),
+                            "--output", output}
+                + arguments;
+
+    QString out;
+    QString err;
+    QTextStream outStream(&out);
+    QTextStream errStream(&err);
+    QString error;
+    const std::optional<CertificateBatch::Options> options =
+        CertificateBatch::parse(arguments, error);
+    const int result = options ? CertificateBatch(outStream, errStream).run(*options)
+                               : int(CertificateBatch::UsageError);
+    QCOMPARE(result, status);
+    QCOMPARE(QDir(output).entryList(QDir::Files, QDir::Name), files);
+    // Nothing to certify makes no folder; a file in the folder's place is named with why.
+    QCOMPARE(QFileInfo::exists(output), !files.isEmpty());
+    if (arguments.contains(file.fileName())) {
+        QCOMPARE(err, "kelvora-certificates: The folder " + file.fileName()
+                          + " could not be made: Not a directory.\n");
+    }
+    if (status == 0) {
+        QVERIFY2(err.isEmpty(), qPrintable(err));
+        QCOMPARE(out.count('\n'), files.size() + 1);
+        QVERIFY(out.endsWith(QStringLiteral("%1 file%2 written\n")
+                                 .arg(files.size())
+                                 .arg(files.size() == 1 ? "" : "s")));
+    } else {
+        QVERIFY(options ? !err.isEmpty() : !error.isEmpty());
     }
 }
 
