@@ -116,7 +116,6 @@ int main(int argc, char **argv)
         for (const Form16AWorkTables::Deductee &deductee : tables.deductees(companyId, "Q2"))
             ids << deductee.id;
     });
-    const double words = timed([&] { tables.fillWords(companyId, "Q2", ids); });
 
     Form16AFiles files(tables, {QStringLiteral("From 01/07/2026 To 30/09/2026"), {}, false});
     QList<long> memory;
@@ -141,12 +140,11 @@ int main(int argc, char **argv)
         bytes += pdf.size();
 
     out << "  work tables and deductee list: " << QString::number(prepare, 'f', 0) << " ms\n";
-    out << "  amounts in words:              " << QString::number(words, 'f', 0) << " ms\n";
     out << "  " << pdfs.size() << " PDFs (" << bytes / pdfs.size() / 1024 << " KiB each):     "
         << QString::number(writing, 'f', 0) << " ms (processor time of all threads "
         << QString::number(processor, 'f', 0) << " ms)\n";
     out << "  total:                         "
-        << QString::number(prepare + words + writing, 'f', 0) << " ms\n";
+        << QString::number(prepare + writing, 'f', 0) << " ms\n";
     out << "  resident memory after each tenth of the files (MiB):";
     for (const long kib : memory)
         out << ' ' << kib / 1024;

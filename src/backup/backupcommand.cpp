@@ -64,9 +64,10 @@ QString BackupCommand::usage()
         "       Backup --store PATH --to DIR [--keep N]\n"
         "Without --to, opens the Backup & Restore window on the store (by default Kelvora.db\n"
         "beside the program). With --to, writes a checked backup of the store into DIR as\n"
-        "Kelvora-YYYYMMDD-HHMMSS.db and, with --keep, removes all but the newest N backups\n"
-        "there. Exit status: 0 done, 1 store refused or in use, 2 usage error, 3 file-system\n"
-        "failure.\n");
+        "Kelvora-YYYYMMDD-HHMMSS.db (-2, -3 and so on added for more in one second), removes\n"
+        "the unfinished copies of backups that were stopped there and, with --keep, all but\n"
+        "the newest N backups. Exit status: 0 done, 1 store refused or in use, 2 usage error,\n"
+        "3 file-system failure.\n");
 }
 
 BackupCommand::Status BackupCommand::run(const Options &options, const QDateTime &now,
@@ -82,7 +83,8 @@ BackupCommand::Status BackupCommand::run(const Options &options, const QDateTime
                 out << "removed " << QDir::toNativeSeparators(removed) << '\n';
         }
     } catch (const BackupError &error) {
-        err << "Backup: " << error.text() << '\n';
+        // One line, as a scheduler's log reads it; the window keeps the findings' lines.
+        err << "Backup: " << error.text().simplified() << '\n';
         return error.kind() == BackupError::Refused ? Refused : FileSystemFailure;
     }
     return Done;

@@ -12,6 +12,18 @@ namespace backupfolder {
 namespace {
 
 const QString stampFormat = QStringLiteral("yyyyMMdd-HHmmss");
+const QString namePattern =
+    QStringLiteral("Kelvora-(\\d{8}-\\d{6})(?:-([2-9]|[1-9]\\d+))?\\.db");
+
+/// The stamp and the copy of a backup's name; an empty stamp for any other name.
+std::pair<QString, int> stampOf(const QString &fileName)
+{
+    static const QRegularExpression name(QStringLiteral("^%1$").arg(namePattern));
+    const QRegularExpressionMatch match = name.match(fileName);
+    if (!match.hasMatch())
+        return {};
+    return {match.captured(1), match.captured(2).isEmpty() ? 1 : match.captured(2).toInt()};
+}
 
 } // namespace
 
@@ -20,18 +32,18 @@ QString defaultFor(const QString &storePath)
     return QFileInfo(storePath).absoluteDir().filePath(QStringLiteral("Backups"));
 }
 
-QString fileNameFor(const QDateTime &taken)
+QString fileNameFor(const QDateTime &taken, int copy)
 {
-    return QStringLiteral("Kelvora-%1.db").arg(taken.toString(stampFormat));
+    const QString stamp = taken.toString(stampFormat);
+    if (copy > 1)
+        return QStringLiteral("Kelvora-%1-%2.db").arg(stamp).arg(copy);
+    return QStringLiteral("Kelvora-%1.db").arg(stamp);
 }
 
 QDateTime takenOf(const QString &fileName)
 {
-    static const QRegularExpression name(QStringLiteral("^Kelvora-(\\d{8}-\\d{6})\\.db$"));
-    const QRegularExpressionMatch match = name.match(fileName);
-    if (!match.hasMatch())
-        return {};
-    return QDateTime::fromString(match.captured(1), stampFormat);
+    const QString stamp = stampOf(fileName).first;
+    return stamp.isEmpty() ? QDateTime() : QDateTime::fromString(stamp, stampFormat);
 }
 
 QStringList backupsIn(const QString &folder)
@@ -42,11 +54,27 @@ QStringList backupsIn(const QString &folder)
         if (takenOf(name).isValid())
             names << name;
     }
-    // The stamp sorts as text in the order of time.
-    std::sort(names.begin(), names.end(), std::greater<>());
+    // The stamp sorts as text in the order of time; the copies of one second by their number.
+    std::sort(names.begin(), names.end(), [](const QString &a, const QString &b) {
+        return stampOf(a) > stampOf(b);
+    });
     QStringList paths;
     for (const QString &name : std::as_const(names))
         paths << dir.filePath(name);
+    return paths;
+}
+
+QStringList unfinishedIn(const QString &folder)
+{
+    static const QRegularExpression name(
+        QStringLiteral("^%1\\.part(-journal)?$").arg(namePattern));
+    const QDir dir(folder);
+    QStringList paths;
+    for (const QString &entry : dir.entryList({QStringLiteral("Kelvora-*.db.part*")},
+                                              QDir::Files | QDir::Hidden | QDir::NoSymLinks)) {
+        if (name.match(entry).hasMatch())
+            paths << dir.filePath(entry);
+    }
     return paths;
 }
 

@@ -1,11 +1,13 @@
 #include "backup/storebackup.h"
 
 #include "backup/backuperror.h"
-#include "backup/backupfolder.h"
+#include "backup/backuplock.h"
+#include "backup/backuptarget.h"
 #include "core/datastore.h"
 #include "core/storecheck.h"
 #include "core/storeerror.h"
 #include "core/storelock.h"
+#include "core/wholefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,21 +34,15 @@ BackupError fileSystem(const QString &text)
 
 std::unique_ptr<StoreLock> lockStore(const QString &path, std::chrono::milliseconds wait)
 {
-    auto lock = std::make_unique<StoreLock>(path);
-    if (lock->take(wait))
-        return lock;
-    if (lock->heldByAnother()) {
-        throw refused(QStringLiteral("The data store %1 is in use by %2. Close that program, "
-                                     "then try again.").arg(shown(path), lock->holder()));
-    }
-    throw refused(QStringLiteral("The data store %1 cannot be used: %2.")
-                      .arg(shown(path), lock->failureText()));
+    return takeBackupLock(path, QStringLiteral("The data store %1").arg(shown(path)), wait,
+                          LockNotMade::Refuse);
 }
 
-void makeFolder(const QString &folder)
+/// Removes an unfinished copy and SQLite's journal of it.
+void removeCopy(const QString &path)
 {
-    if (!QDir().mkpath(folder))
-        throw fileSystem(QStringLiteral("The folder %1 cannot be made.").arg(shown(folder)));
+    QFile::remove(path);
+    QFile::remove(path + QStringLiteral("-journal"));
 }
 
 /// Gives the whole file at @p part its name @p target, which no file may have yet.
@@ -78,17 +74,32 @@ void replace(const QString &from, const QString &to)
 void copyBytes(const QString &from, const QString &target)
 {
     const QString part = target + QStringLiteral(".part");
-    QFile::remove(part);
     QFile source(from);
-    if (!source.copy(part)) {
-        QFile::remove(part);
-        throw fileSystem(QStringLiteral("%1 cannot be written: %2")
-                             .arg(shown(target), source.errorString()));
-    }
+    QFile copy(part);
+    const auto cannot = [&](const QString &what, const QFile &file) {
+        return fileSystem(QStringLiteral("%1 cannot be %2: %3")
+                              .arg(shown(file.fileName()), what, file.errorString()));
+    };
+    if (!source.open(QIODevice::ReadOnly))
+        throw cannot(QStringLiteral("read"), source);
+    if (!copy.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        throw cannot(QStringLiteral("written"), copy);
     try {
+        constexpr qint64 blockSize = 1 << 20;
+        while (!source.atEnd()) {
+            const QByteArray block = source.read(blockSize);
+            if (source.error() != QFileDevice::NoError)
+                throw cannot(QStringLiteral("read"), source);
+            if (!wholefile::write(copy, block))
+                throw cannot(QStringLiteral("written"), copy);
+        }
+        if (!copy.flush())
+            throw cannot(QStringLiteral("written"), copy);
+        copy.close();
         placeNew(part, target);
     } catch (...) {
-        QFile::remove(part);
+        copy.close();
+        removeCopy(part);
         throw;
     }
 }
@@ -111,10 +122,11 @@ QString StoreBackup::backUp(const QString &folder, const QDateTime &now) const
         throw refused(error.description());
     }
     const auto lock = lockStore(m_storePath, m_lockWait);
-    makeFolder(folder);
-    const QString target = QDir(folder).filePath(backupfolder::fileNameFor(now));
-    writeCopy(m_storePath, target);
-    return target;
+    BackupTarget target(folder, m_lockWait);
+    const QString path = target.pathFor(now);
+    writeCopy(m_storePath, path);
+    target.keep();
+    return path;
 }
 
 QString StoreBackup::restoreRefusal(const QString &backup)
@@ -143,11 +155,17 @@ QString StoreBackup::restore(const QString &backup, const QString &folder,
     const QString refusal = restoreRefusal(backup);
     if (!refusal.isEmpty())
         throw refused(refusal);
+    // The backup is put in the store's place by a rename, which would replace a link.
+    const QString notPlain = wholefile::refusal(m_storePath);
+    if (!notPlain.isEmpty()) {
+        throw refused(QStringLiteral("The data store %1 cannot be replaced: %2.")
+                          .arg(shown(m_storePath), notPlain));
+    }
     const auto lock = lockStore(m_storePath, m_lockWait);
     const QString safety = QFileInfo::exists(m_storePath) ? safetyCopy(folder, now) : QString();
 
     const QString restoring = m_storePath + QStringLiteral(".restoring");
-    QFile::remove(restoring);
+    removeCopy(restoring);
     try {
         try {
             const DataStore source(backup, DataStore::OpenMode::ReadOnly);
@@ -164,7 +182,7 @@ QString StoreBackup::restore(const QString &backup, const QString &folder,
         }
         replace(restoring, m_storePath);
     } catch (...) {
-        QFile::remove(restoring);
+        removeCopy(restoring);
         throw;
     }
     return safety;
@@ -172,8 +190,8 @@ QString StoreBackup::restore(const QString &backup, const QString &folder,
 
 QString StoreBackup::safetyCopy(const QString &folder, const QDateTime &now) const
 {
-    makeFolder(folder);
-    const QString target = QDir(folder).filePath(backupfolder::fileNameFor(now));
+    BackupTarget folderTarget(folder, m_lockWait);
+    const QString target = folderTarget.pathFor(now);
     try {
         writeCopy(m_storePath, target);
     } catch (const BackupError &error) {
@@ -181,6 +199,7 @@ QString StoreBackup::safetyCopy(const QString &folder, const QDateTime &now) con
             throw;
         copyBytes(m_storePath, target);
     }
+    folderTarget.keep();
     // A journal still beside the store belongs to what was just saved: it goes with the copy,
     // where SQLite finds it, and never onto the restored store.
     QFile journal(m_storePath + QStringLiteral("-journal"));
@@ -194,7 +213,6 @@ QString StoreBackup::safetyCopy(const QString &folder, const QDateTime &now) con
 void StoreBackup::writeCopy(const QString &source, const QString &target) const
 {
     const QString part = target + QStringLiteral(".part");
-    QFile::remove(part);
     try {
         try {
             const DataStore store(source);
@@ -211,7 +229,7 @@ void StoreBackup::writeCopy(const QString &source, const QString &target) const
         }
         placeNew(part, target);
     } catch (...) {
-        QFile::remove(part);
+        removeCopy(part);
         throw;
     }
 }

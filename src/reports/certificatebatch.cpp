@@ -131,7 +131,6 @@ int CertificateBatch::run(const Options &options)
         for (const Form16AWorkTables::Deductee &deductee :
              tables.deductees(*compId, options.quarter, options.deductee))
             ids << deductee.id;
-        tables.fillWords(*compId, options.quarter, ids);
         Form16AHeading heading{form16APeriod(options.quarter, session.asstFaYearStart),
                                options.inputs, form->collectsTax};
         Form16AFiles files(tables, heading);

@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 #include "core/records.h"
 #include "core/storeerror.h"
+#include "reports/inwords.h"
 #include "reports/reportformat.h"
 
 #include <QSqlError>
@@ -74,7 +75,10 @@ Money Form16ACertificate::totalTax() const
     return sum;
 }
 
-Form16ACertificateReader::Form16ACertificateReader(QSqlQuery rows) : m_rows(std::move(rows)) {}
+Form16ACertificateReader::Form16ACertificateReader(QSqlQuery rows, Deductee deductee)
+    : m_rows(std::move(rows)), m_deductee(deductee)
+{
+}
 
 QList<Form16ACertificate> Form16ACertificateReader::nextDeductee()
 {
@@ -86,7 +90,7 @@ QList<Form16ACertificate> Form16ACertificateReader::nextDeductee()
     certificates.last().payments.append(paymentOf(m_rows));
     while (advance()) {
         const Form16ACertificate &current = certificates.last();
-        if (!sameText(m_rows.value(DeducteeName), current.deducteeName)) {
+        if (!sameDeductee(current)) {
             m_pending = true;
             break;
         }
@@ -94,7 +98,18 @@ QList<Form16ACertificate> Form16ACertificateReader::nextDeductee()
             certificates.append(certificateOf(m_rows));
         certificates.last().payments.append(paymentOf(m_rows));
     }
+    if (m_deductee == Deductee::ByMaster) {
+        for (Form16ACertificate &certificate : certificates)
+            certificate.words = inwords::certificateWords(certificate.totalTax());
+    }
     return certificates;
+}
+
+bool Form16ACertificateReader::sameDeductee(const Form16ACertificate &current) const
+{
+    if (m_deductee == Deductee::ByMaster)
+        return m_rows.value(DeducteeId).toInt() == current.deducteeId;
+    return sameText(m_rows.value(DeducteeName), current.deducteeName);
 }
 
 bool Form16ACertificateReader::advance()

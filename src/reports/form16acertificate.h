@@ -47,14 +47,20 @@ struct Form16ACertificate
 };
 
 /**
- * Reads the rows of Form16AWorkTables::certificateRows, deductee by deductee: each deductee's
- * certificates, one for each section, rows in the order read. Rows of one name stand together
- * in that order, so a deductee is complete when its name changes. Throws StoreError.
+ * Reads the rows of the work tables' certificate queries, deductee by deductee: each deductee's
+ * certificates, one for each section, rows in the order read. A deductee's rows stand together
+ * in that order, so it is complete when its name (the print's join) or its master (the files
+ * of each deductee) changes. Throws StoreError.
  */
 class Form16ACertificateReader
 {
 public:
-    explicit Form16ACertificateReader(QSqlQuery rows);
+    enum class Deductee {
+        ByName,   ///< Form16AWorkTables::certificateRows, the words in the rows
+        ByMaster, ///< Form16AWorkTables::masterRows, the words spelled from each total
+    };
+
+    Form16ACertificateReader(QSqlQuery rows, Deductee deductee);
 
     /// The next deductee's certificates; empty when every row has been read.
     QList<Form16ACertificate> nextDeductee();
@@ -62,7 +68,10 @@ public:
 private:
     bool advance();
 
+    bool sameDeductee(const Form16ACertificate &current) const;
+
     QSqlQuery m_rows;
+    Deductee m_deductee;
     bool m_pending = false; ///< a row read that belongs to the next deductee
 };
 

@@ -1,6 +1,7 @@
 #include "reports/form16afiles.h"
 
 #include "core/namepart.h"
+#include "core/wholefile.h"
 #include "reports/form16aworktables.h"
 #include "reports/pdfbatch.h"
 #include "reports/reportfile.h"
@@ -47,11 +48,6 @@ Form16AFiles::Outcome Form16AFiles::write(const QString &folder, int companyId,
                                           int groupId, const Progress &progress)
 {
     Outcome outcome;
-    if (!QDir().mkpath(folder)) {
-        outcome.error = QStringLiteral("The folder %1 could not be made.")
-                            .arg(QDir::toNativeSeparators(folder));
-        return outcome;
-    }
     // Putting the fonts into a PDF costs far more than drawing the pages, so the certificates
     // are drawn a run of deductees at a time into one PDF that is then cut per deductee, by a
     // few threads that live for the whole run. The files are written and told in the order
@@ -79,6 +75,15 @@ Form16AFiles::Outcome Form16AFiles::write(const QString &folder, int companyId,
             return;
         if (!drawn.files) {
             outcome.error = drawn.error;
+            going = false;
+            return;
+        }
+        // The folder is made for the first file, so that a run with nothing to certify
+        // leaves none behind.
+        const QString notMade = outcome.written == 0 ? wholefile::makeFolder(folder) : QString();
+        if (!notMade.isEmpty()) {
+            outcome.error = QStringLiteral("The folder %1 could not be made: %2.")
+                                .arg(QDir::toNativeSeparators(folder), notMade);
             going = false;
             return;
         }
@@ -114,8 +119,8 @@ Form16AFiles::Outcome Form16AFiles::write(const QString &folder, int companyId,
         if (pending.size() >= inFlight)
             finishFirst();
     };
-    Form16ACertificateReader reader(
-        m_tables.certificateRows(companyId, quarter, deducteeIds, groupId));
+    Form16ACertificateReader reader(m_tables.masterRows(companyId, quarter, deducteeIds, groupId),
+                                    Form16ACertificateReader::Deductee::ByMaster);
     for (QList<Form16ACertificate> certificates = reader.nextDeductee();
          going && !certificates.isEmpty(); certificates = reader.nextDeductee()) {
         const Form16ACertificate &first = certificates.first();

@@ -8,8 +8,9 @@
 class Form16AWorkTables;
 
 /**
- * Form 16A as one PDF per deductee, for certificates that are sent out one by one: the
- * document that the screen prints when that deductee alone is ticked.
+ * Form 16A as one PDF per deductee master, for certificates that are sent out one by one: each
+ * file holds the rows of that master alone, each once, read by the master's id rather than by
+ * its name, so that two deductees of one name never share a file.
  */
 class Form16AFiles
 {
@@ -38,9 +39,9 @@ public:
 
     /**
      * Writes the certificates of the chosen deductees (master ids) of a company's quarter into
-     * the folder, made when missing, from the work tables as they were filled for those
-     * deductees. An earlier file of the same name is replaced; a failure leaves it as it was.
-     * Throws StoreError.
+     * the folder, made for the first file when missing, from the filled rows table. An earlier
+     * plain file of the same name is replaced; a failure leaves it as it was, and any other
+     * kind of file of that name (a pipe, a link) is refused. Throws StoreError.
      */
     Outcome write(const QString &folder, int companyId, const QString &quarter,
                   const QList<int> &deducteeIds, int groupId, const Progress &progress);

@@ -51,6 +51,15 @@ QString createStatement(const QString &table, const char *columns)
         .arg(table, declared.join(QStringLiteral(", ")));
 }
 
+/// Every column of the rows table, as a statement that names it w selects them.
+QString rowColumns()
+{
+    QStringList columns;
+    for (const QString &column : columnNames(rowsColumns))
+        columns << QStringLiteral("w.") + column;
+    return columns.join(QStringLiteral(", "));
+}
+
 /// "?, ?, ?" for a list of ids, which are bound one by one.
 QString marks(qsizetype count)
 {
@@ -63,6 +72,29 @@ QVariantList chosen(int companyId, const QString &quarter, const QList<int> &ids
     for (const int id : ids)
         values << id;
     return values;
+}
+
+/// A statement on the rows table (w) joined to the deductee masters (m): what it selects, its
+/// joins, and what follows the condition.
+struct ChosenRows
+{
+    QString select;
+    QString joins;
+    QString tail;
+};
+
+/// The rows of the chosen deductees of a company's quarter whose master is in the group.
+QSqlQuery chosenRows(const DataStore &store, const ChosenRows &statement, int companyId,
+                     const QString &quarter, const QList<int> &ids, int groupId)
+{
+    QVariantList values = chosen(companyId, quarter, ids);
+    values << groupId;
+    return store.exec(QStringLiteral("SELECT %1 FROM %2 AS w %3 WHERE w.CompanyId = ? "
+                                     "AND w.Quarter = ? AND w.DeducteeID IN (%4) "
+                                     "AND m.GroupId = ? %5")
+                          .arg(statement.select, rowsTable, statement.joins,
+                               marks(ids.size()), statement.tail),
+                      values);
 }
 
 } // namespace
@@ -183,20 +215,40 @@ int Form16AWorkTables::fillWords(int companyId, const QString &quarter,
 QSqlQuery Form16AWorkTables::certificateRows(int companyId, const QString &quarter,
                                              const QList<int> &deducteeIds, int groupId) const
 {
-    QStringList columns;
-    for (const QString &column : columnNames(rowsColumns))
-        columns << QStringLiteral("w.") + column;
-    QVariantList values = chosen(companyId, quarter, deducteeIds);
-    values << groupId;
-    return m_store.exec(
-        QStringLiteral("SELECT %1, s.InWords, m.PIN FROM %2 AS w "
-                       "JOIN %3 AS s ON s.DeducteeName = w.DeducteeName "
-                       "AND s.DeducteeSectionNo = w.DeducteeSectionNo "
-                       "JOIN mstDeductee AS m ON m.DeducteeName = w.DeducteeName "
-                       "WHERE w.CompanyId = ? AND w.Quarter = ? AND w.DeducteeID IN (%4) "
-                       "AND m.GroupId = ? "
-                       "ORDER BY w.DeducteeName, w.DeducteeSectionNo, w.PaymentDate")
-            .arg(columns.join(QStringLiteral(", ")), rowsTable, wordsTable,
-                 marks(deducteeIds.size())),
-        values);
+    return chosenRows(m_store,
+                      {rowColumns() + QStringLiteral(", s.InWords, m.PIN"),
+                       QStringLiteral("JOIN %1 AS s ON s.DeducteeName = w.DeducteeName "
+                                      "AND s.DeducteeSectionNo = w.DeducteeSectionNo "
+                                      "JOIN mstDeductee AS m ON m.DeducteeName = w.DeducteeName")
+                           .arg(wordsTable),
+                       QStringLiteral("ORDER BY w.DeducteeName, w.DeducteeSectionNo, "
+                                      "w.PaymentDate")},
+                      companyId, quarter, deducteeIds, groupId);
+}
+
+QStringList Form16AWorkTables::sharedNames(int companyId, const QString &quarter,
+                                           const QList<int> &deducteeIds, int groupId) const
+{
+    QSqlQuery query = chosenRows(
+        m_store,
+        {QStringLiteral("w.DeducteeName"),
+         QStringLiteral("JOIN mstDeductee AS m ON m.DeducteeName = w.DeducteeName"),
+         QStringLiteral("GROUP BY w.DeducteeName HAVING count(DISTINCT m.DeducteeID) > 1 "
+                        "ORDER BY w.DeducteeName")},
+        companyId, quarter, deducteeIds, groupId);
+    QStringList names;
+    while (query.next())
+        names << records::nullToText(query.value(0));
+    return names;
+}
+
+QSqlQuery Form16AWorkTables::masterRows(int companyId, const QString &quarter,
+                                        const QList<int> &deducteeIds, int groupId) const
+{
+    return chosenRows(m_store,
+                      {rowColumns() + QStringLiteral(", NULL, m.PIN"),
+                       QStringLiteral("JOIN mstDeductee AS m ON m.DeducteeID = w.DeducteeID"),
+                       QStringLiteral("ORDER BY m.DeducteeName, m.DeducteeID, "
+                                      "w.DeducteeSectionNo, w.PaymentDate")},
+                      companyId, quarter, deducteeIds, groupId);
 }

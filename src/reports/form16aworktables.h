@@ -3,6 +3,7 @@
 #include <QList>
 #include <QSqlQuery>
 #include <QString>
+#include <QStringList>
 
 class DataStore;
 struct FormTraits;
@@ -53,6 +54,20 @@ public:
     /// section and date of payment. Two masters of one name in a group double the rows.
     QSqlQuery certificateRows(int companyId, const QString &quarter,
                               const QList<int> &deducteeIds, int groupId) const;
+
+    /// The names among the chosen deductees' rows that two or more masters of the group bear
+    /// (compared without regard to case), which certificateRows joins to every one of them.
+    QStringList sharedNames(int companyId, const QString &quarter,
+                            const QList<int> &deducteeIds, int groupId) const;
+
+    /**
+     * The rows to certify each deductee master on its own: the columns of certificateRows, the
+     * words Null, for the chosen deductees whose master (by its id) is in the group; each
+     * master's rows together, by its name and id, then by section and date of payment. Each
+     * row is read once, whatever the names of the masters and of the rows.
+     */
+    QSqlQuery masterRows(int companyId, const QString &quarter, const QList<int> &deducteeIds,
+                         int groupId) const;
 
 private:
     const DataStore &m_store;

@@ -135,8 +135,17 @@ void FrmForm16Report::printCertificates()
     if (ids.isEmpty() || !m_form)
         return;
     try {
-        Form16ACertificateReader reader(m_tables.certificateRows(
-            m_session.curCompId, m_session.curQuarter, ids, m_session.curGroupId));
+        const QStringList shared = m_tables.sharedNames(m_session.curCompId,
+                                                        m_session.curQuarter, ids,
+                                                        m_session.curGroupId);
+        if (!shared.isEmpty()) {
+            m_boxes.show({sharedNamesText.arg(shared.join(u'\n')), appTitle,
+                          MessageIcon::Warning});
+        }
+        Form16ACertificateReader reader(
+            m_tables.certificateRows(m_session.curCompId, m_session.curQuarter, ids,
+                                     m_session.curGroupId),
+            Form16ACertificateReader::Deductee::ByName);
         QList<Form16ACertificate> certificates;
         for (QList<Form16ACertificate> next = reader.nextDeductee(); !next.isEmpty();
              next = reader.nextDeductee())

@@ -23,6 +23,11 @@ class FrmForm16Report : public QWidget
 
 public:
     static inline const QString noTickText = QStringLiteral("Please select the Deductee !!");
+    /// Said before the print when the ticked deductees' names join more than one master each.
+    static inline const QString sharedNamesText = QStringLiteral(
+        "More than one deductee master of this group bears each of these names:\n\n%1\n\n"
+        "The certificates join the masters by name, so each of their rows is printed once for "
+        "every master of the name. \"Save as PDFs...\" writes each master's own certificates.");
 
     /// @p quarterText: the quarter as the selection screen named it ("First Quarter").
     FrmForm16Report(Session &session, MessageBoxes &boxes, const QString &quarterText,

@@ -1,5 +1,6 @@
 #include "reports/reportfile.h"
 
+#include "core/wholefile.h"
 #include "reports/report.h"
 #include "reports/reportodf.h"
 #include "reports/reportplaintext.h"
@@ -33,7 +34,7 @@ constexpr Ending endings[] = {
 
 QString failure(const QString &fileName, const QString &reason)
 {
-    return QStringLiteral("The report could not be saved as %1:\n%2")
+    return QStringLiteral("The report could not be saved as %1: %2")
         .arg(QDir::toNativeSeparators(fileName), reason);
 }
 
@@ -102,9 +103,14 @@ QString nameForFormat(const QString &fileName, Format format)
 
 QString writeWhole(const QString &fileName, const QByteArray &bytes)
 {
+    const QString refusal = wholefile::refusal(fileName);
+    if (!refusal.isEmpty())
+        return failure(fileName, refusal);
     // The whole file is written beside its destination and moved into place only when complete.
+    // It is flushed first: the commit's own failure would lose the system's reason (a full disk).
     QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || !wholefile::write(file, bytes) || !file.flush()
+        || !file.commit())
         return failure(fileName, file.errorString());
     return {};
 }

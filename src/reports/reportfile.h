@@ -25,7 +25,8 @@ std::optional<Format> formatForName(const QString &fileName);
 QString nameForFormat(const QString &fileName, Format format);
 
 /// Saves the report in the format. Returns an empty text on success, otherwise the message for
-/// the user. A failed save leaves no partial file, and an earlier file of that name as it was.
+/// the user. A failed save leaves no partial file, and an earlier file of that name as it was;
+/// a name held by anything but a plain file (a pipe, a device, a link) is refused.
 QString save(const Report &report, Format format, const QString &fileName);
 
 /// Writes a file's whole contents as save() does: an empty text on success, otherwise the

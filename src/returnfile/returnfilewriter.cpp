@@ -1,6 +1,7 @@
 #include "returnfile/returnfilewriter.h"
 
 #include "core/datastore.h"
+#include "core/wholefile.h"
 #include "returnfile/batchheaderrecord.h"
 #include "returnfile/batchtotals.h"
 #include "returnfile/challanrecord.h"
@@ -12,7 +13,6 @@
 #include "returnfile/sourcerows.h"
 #include "core/formtraits.h"
 
-#include <QFileInfo>
 #include <QList>
 #include <QSaveFile>
 
@@ -26,16 +26,9 @@ class ReturnFileOutput
 public:
     explicit ReturnFileOutput(const QString &path) : m_file(path)
     {
-        // The file is put in place by a rename, which would replace a device, a pipe or a
-        // link to one with a plain file.
-        const QFileInfo target(path);
-        if (target.exists() && !target.isFile()) {
-            throw ReturnFileError(
-                QStringLiteral("The return file %1 could not be written: that name is not a "
-                               "plain file, and it is left as it is.")
-                    .arg(path),
-                ReturnFileError::Cause::FileSystem);
-        }
+        const QString refusal = wholefile::refusal(path);
+        if (!refusal.isEmpty())
+            throw failure(path, refusal);
         if (!m_file.open(QIODevice::WriteOnly))
             fail();
     }
@@ -57,13 +50,18 @@ public:
     }
 
 private:
+    static ReturnFileError failure(const QString &path, const QString &reason)
+    {
+        return ReturnFileError(QStringLiteral("The return file %1 could not be written: %2.")
+                                   .arg(path, reason),
+                               ReturnFileError::Cause::FileSystem);
+    }
+
     [[noreturn]] void fail()
     {
         const QString reason = m_file.errorString();
         m_file.cancelWriting();
-        throw ReturnFileError(QStringLiteral("The return file %1 could not be written: %2")
-                                  .arg(m_file.fileName(), reason),
-                              ReturnFileError::Cause::FileSystem);
+        throw failure(m_file.fileName(), reason);
     }
 
     QSaveFile m_file;

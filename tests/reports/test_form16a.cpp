@@ -12,9 +12,13 @@
 #include "support/testsuite.h"
 
 #include <QDir>
+#include <QScopeGuard>
 #include <QTextStream>
 #include <QtTest>
 #include <utility>
+
+#include <sys/mount.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -22,7 +26,8 @@ namespace {
 QStringList certificates(const Form16AWorkTables &tables, const QList<int> &ids)
 {
     QStringList result;
-    Form16ACertificateReader reader(tables.certificateRows(1, "Q1", ids, 1));
+    Form16ACertificateReader reader(tables.certificateRows(1, "Q1", ids, 1),
+                                    Form16ACertificateReader::Deductee::ByName);
     int deductee = 0;
     for (QList<Form16ACertificate> next = reader.nextDeductee(); !next.isEmpty();
          next = reader.nextDeductee(), ++deductee) {
@@ -40,6 +45,38 @@ QStringList certificates(const Form16AWorkTables &tables, const QList<int> &ids)
         }
     }
     return result;
+}
+
+/// kelvora-certificates on the arguments that follow the program's name; the exit status.
+int runBatch(const QStringList &arguments, QString &out, QString &err)
+{
+    QTextStream outStream(&out);
+    QTextStream errStream(&err);
+    QString error;
+    const std::optional<CertificateBatch::Options> options =
+        CertificateBatch::parse(QStringList{"kelvora-certificates"} + arguments, error);
+    if (!options) {
+        err = error;
+        return CertificateBatch::UsageError;
+    }
+    return CertificateBatch(outStream, errStream).run(*options);
+}
+
+/// The reports store with a fourth deductee master of group 1 and a row of it in company 1's
+/// first quarter (94C, 60.00 of tax), under the name given to both.
+std::unique_ptr<TestStore> storeWithFourthMaster(const QString &name)
+{
+    auto data = std::make_unique<TestStore>(reportsStore());
+    data->store().exec("INSERT INTO mstDeductee (GroupId, DeducteeID, PAN, DeducteeName) "
+                       "VALUES (1, 4, 'AAAPQ4444Q', ?)",
+                       {name});
+    data->store().exec(
+        "INSERT INTO TranDeducteeE26 (DeducteeID, BasicIfoID, CompID, AsstID, ChallanId, SrlNo, "
+        "Section, DeducteeNo, DeducteeCode, PAN, DeducteeName, AmtOfPayment, PaymentDt, Tax, "
+        "Total) VALUES (6, 1, 1, 1, 1, 6, '94C', 4, '02', 'AAAPQ4444Q', ?, 3000, '2026-04-28', "
+        "60, 60)",
+        {name});
+    return data;
 }
 
 const Form16AWorkTables &filledTables()
@@ -87,6 +124,10 @@ private slots:
     void certificateAsPdf();
     void frontEnd_data();
     void frontEnd();
+    void fileOfEachMaster_data();
+    void fileOfEachMaster();
+    void refusedTargets_data();
+    void refusedTargets();
 };
 
 void TestForm16A::inWords_data()
@@ -185,7 +226,8 @@ void TestForm16A::certificateAsPdf()
         QSKIP("pdftotext (poppler-utils) is not installed");
     const Form16AWorkTables &tables = filledTables();
     tables.fillWords(1, "Q1", {1, 2});
-    Form16ACertificateReader reader(tables.certificateRows(1, "Q1", {1, 2}, 1));
+    Form16ACertificateReader reader(tables.certificateRows(1, "Q1", {1, 2}, 1),
+                                    Form16ACertificateReader::Deductee::ByName);
     const Form16AHeading heading{form16APeriod("Q1", "2026"),
                                  {"ACK-77", "KOLKATA", "15/07/2026", "RAVI KUMAR", "DIRECTOR",
                                   "NIL"}};
@@ -221,6 +263,114 @@ void TestForm16A::certificateAsPdf()
                    "KOLKATA", "RAVI KUMAR", "DIRECTOR", "94J", "987654321", "5,000.25",
                    "Five Thousand and Twenty Five paise only."});
 }
+
+// A file is one deductee master's, read by its id: two masters of one name (in any case) get
+// a file each with their own rows once, and a name with an outer blank or line break, which
+// the words of the print lose, still gets its certificate.
+void TestForm16A::fileOfEachMaster_data()
+{
+    testsuite::columns<QString, QStringList>("name", "lines");
+    const QString obrien = "AAAPA2222A_O_Brien_Sons.pdf\t1 certificate\t200.00";
+    const QString zubin = "AAAPZ1111Z_ZUBIN_MEHTA.pdf\t2 certificates\t7,515.25";
+    QTest::newRow("two masters of one name")
+        << "ZUBIN MEHTA"
+        << QStringList{obrien, zubin, "AAAPQ4444Q_ZUBIN_MEHTA.pdf\t1 certificate\t60.00"};
+    QTest::newRow("names differing in case")
+        << "Zubin Mehta"
+        << QStringList{obrien, zubin, "AAAPQ4444Q_Zubin_Mehta.pdf\t1 certificate\t60.00"};
+    const QString asha = "AAAPQ4444Q_ASHA_RAO.pdf\t1 certificate\t60.00";
+    QTest::newRow("an outer blank") << " ASHA RAO " << QStringList{asha, obrien, zubin};
+    QTest::newRow("a line break") << "ASHA RAO\n" << QStringList{asha, obrien, zubin};
+}
+
+void TestForm16A::fileOfEachMaster()
+{
+    QFETCH(QString, name);
+    QFETCH(QStringList, lines);
+    const std::unique_ptr<TestStore> data = storeWithFourthMaster(name);
+    QTemporaryDir folder;
+    QString out;
+    QString err;
+    QCOMPARE(runBatch({"--store", data->store().path(), "--output", folder.path(), "--form",
+                       "26Q", "--quarter", "Q1", "--company", "1"},
+                      out, err),
+             0);
+    QCOMPARE(out, lines.replaceInStrings(QRegularExpression("^"), folder.path() + '/')
+                          .join('\n')
+                      + "\n3 files written\n");
+    if (!canReadPdf())
+        QSKIP("pdftotext (poppler-utils) is not installed");
+    const QString fourth = pdfText(lines.filter("AAAPQ4444Q").value(0).section('\t', 0, 0));
+    QVERIFY(!fourth.contains("AAAPZ1111Z") && !fourth.contains("10/04/2026"));
+    expectInOrder(fourth.simplified(), {"AAAPQ4444Q", "28/04/2026", "Rupees Sixty only."});
+    const QString first = pdfText(folder.filePath("AAAPZ1111Z_ZUBIN_MEHTA.pdf"));
+    QVERIFY(!first.contains("AAAPQ4444Q") && !first.contains("28/04/2026"));
+    QCOMPARE(first.count("20/04/2026"), 1);
+}
+
+// A name of the folder that holds anything but a plain file is refused and left as it is; a
+// full disk is told in words. Either way the run stops with one line on the error stream.
+void TestForm16A::refusedTargets_data()
+{
+    testsuite::columns<QString, QString>("placed", "reason");
+    const QString notPlain = "that name is not a plain file, and it is left as it is";
+    QTest::newRow("a pipe") << "fifo" << notPlain;
+    QTest::newRow("a link to a file") << "link" << notPlain;
+    QTest::newRow("a link to nothing") << "dangling" << notPlain;
+    QTest::newRow("a full disk") << "full" << "No space left on device";
+}
+
+void TestForm16A::refusedTargets()
+{
+    QFETCH(QString, placed);
+    QFETCH(QString, reason);
+    QTemporaryDir folder;
+    const QString output = folder.filePath("certificates");
+    QVERIFY(QDir().mkdir(output));
+    const QString target = output + "/AAAPA2222A_O_Brien_Sons.pdf";
+    const QString linked = folder.filePath("linked.txt");
+    const QByteArray native = output.toLocal8Bit();
+    bool mounted = false;
+    if (placed == u"fifo") {
+        QCOMPARE(mkfifo(target.toLocal8Bit(), 0666), 0);
+    } else if (placed == u"full") {
+        // A file system of a few pages, for a disk that fills up.
+        mounted = mount("tmpfs", native, "tmpfs", 0, "size=16k") == 0;
+        if (!mounted)
+            QSKIP("a full disk needs a small file system, which only root may mount");
+    } else {
+        if (placed == u"link") {
+            QFile file(linked);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("kept") == 4);
+        }
+        QVERIFY(QFile::link(linked, target));
+    }
+    const auto unmount = qScopeGuard([&] {
+        if (mounted)
+            umount2(native, MNT_DETACH);
+    });
+
+    QString out;
+    QString err;
+    QCOMPARE(runBatch({"--store", reportsStore().store().path(), "--output", output, "--form",
+                       "26Q", "--quarter", "Q1", "--company", "1"},
+                      out, err),
+             3);
+    QCOMPARE(out, QString());
+    QCOMPARE(err, QStringLiteral("kelvora-certificates: The report could not be saved as %1: %2\n")
+                      .arg(target, reason));
+    const QFileInfo left(target);
+    QCOMPARE(left.isSymLink(), placed == u"link" || placed == u"dangling");
+    if (placed == u"fifo")
+        QVERIFY(!left.isFile() && left.exists());
+    QCOMPARE(QFile::exists(linked), placed == u"link");
+    if (placed == u"link") {
+        QFile file(linked);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), "kept");
+    }
+}
+
 
 void TestForm16A::frontEnd_data()
 {
@@ -293,6 +443,12 @@ void TestForm16A::frontEnd()
                                : int(CertificateBatch::UsageError);
     QCOMPARE(result, status);
     QCOMPARE(QDir(output).entryList(QDir::Files, QDir::Name), files);
+    // Nothing to certify makes no folder; a file in the folder's place is named with why.
+    QCOMPARE(QFileInfo::exists(output), !files.isEmpty());
+    if (arguments.contains(file.fileName())) {
+        QCOMPARE(err, "kelvora-certificates: The folder " + file.fileName()
+                          + " could not be made: Not a directory.\n");
+    }
     if (status == 0) {
         QVERIFY2(err.isEmpty(), qPrintable(err));
         QCOMPARE(out.count('\n'), files.size() + 1);

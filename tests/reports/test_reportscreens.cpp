@@ -90,6 +90,7 @@ private slots:
     void statementPrintouts_data();
     void statementPrintouts();
     void form16AScreen();
+    void form16ASharedNames();
     void olderCertificateScreen();
     void closingReturnsToTheOpener_data();
     void closingReturnsToTheOpener();
@@ -374,6 +375,29 @@ void TestReportScreens::form16AScreen()
     QCOMPARE(preview->report().pageCount(), 1);
     QVERIFY(preview->report().text().contains("Place : KOLKATA\t"));
     QCOMPARE(main.boxes.texts().size(), 2); // the files saved, and nothing after
+}
+
+// The print keeps its join by name, but says first which names two masters of the group bear
+// (here in another case); the files are still one per master.
+void TestReportScreens::form16ASharedNames()
+{
+    TestStore data(reportsStore());
+    data.store().exec("INSERT INTO mstDeductee (GroupId, DeducteeID, PAN, DeducteeName) "
+                      "VALUES (1, 4, 'AAAPQ4444Q', 'Zubin Mehta'), "
+                      "(2, 5, 'AAAPR5555R', 'ZUBIN MEHTA')");
+    Window main(data);
+    QWidget *screen = main.select("mnuForm16A26Q", "ZETA TRADERS", "frmForm16Report");
+    QVERIFY(screen);
+    screen->findChild<QCheckBox *>("chkSelect")->setChecked(true);
+    screen->findChild<QPushButton *>("cmdFormNo16A")->click();
+    QCOMPARE(main.boxes.texts(),
+             QStringList{FrmForm16Report::sharedNamesText.arg("ZUBIN MEHTA")});
+    ReportPreview *preview = main.preview("FrmCrpt");
+    QVERIFY(preview);
+    QCOMPARE(preview->report().text().count("20/04/2026"), 2); // a row once for each master
+
+    QTemporaryDir folder;
+    QCOMPARE(static_cast<FrmForm16Report *>(screen)->savePdfs(folder.path()), 2);
 }
 
 void TestReportScreens::olderCertificateScreen()

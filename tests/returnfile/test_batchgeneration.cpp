@@ -160,6 +160,25 @@ private slots:
         QCOMPARE(data.text("SELECT group_concat(CompID) FROM FileGenerationLog"), "21");
     }
 
+    // A link at the return's name, even one to nothing, is neither replaced nor written
+    // through: the return would land wherever the link points.
+    void linkAtTheReturnsName()
+    {
+        const TestStore data(m_data);
+        QTemporaryDir targets;
+        const QString output = targets.filePath("KAV26QQ2.txt");
+        QVERIFY(QFile::link(targets.filePath("elsewhere"), output));
+        const Run run = this->run("--form 26Q --quarter Q2 --company 11 --wait 0 --output "
+                                      + output,
+                                  data.store().path());
+        QCOMPARE(run.exitCode, 3);
+        QVERIFY2(run.err.contains("The return file " + output
+                                  + " could not be written: that name is not a plain file"),
+                 qPrintable(run.err));
+        QVERIFY(QFileInfo(output).isSymLink());
+        QVERIFY(!QFileInfo::exists(targets.filePath("elsewhere")));
+    }
+
     // What cannot take a return file, or a store the batch cannot use: the run says why on its
     // error stream, 1 for a refused Statement and 3 for the store or the file system, and
     // nothing is written where it should not be.
