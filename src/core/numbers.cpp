@@ -114,4 +114,36 @@ QString decimalText(const QVariant &value)
     return QString::number(number, 'f', QLocale::FloatingPointShortest);
 }
 
+qint64 rateTenThousandths(const QVariant &stored)
+{
+    // Most rates are whole percents and need no reading of decimal digits.
+    if (stored.typeId() == QMetaType::Double || stored.typeId() == QMetaType::LongLong
+        || stored.typeId() == QMetaType::Int) {
+        const double rate = stored.toDouble();
+        if (std::trunc(rate) == rate && std::abs(rate) < 1e12)
+            return static_cast<qint64>(rate) * 10000;
+    }
+    QString digits = decimalText(stored);
+    const bool negative = digits.startsWith(u'-');
+    if (negative)
+        digits.remove(0, 1);
+    const qsizetype point = digits.indexOf(u'.');
+    const QString fraction =
+        (point < 0 ? QString() : digits.mid(point + 1)) + QStringLiteral("00000");
+    qint64 tenThousandths = (point < 0 ? digits : digits.left(point)).toLongLong() * 10000
+                            + fraction.left(4).toLongLong();
+    if (fraction.at(4) >= u'5')
+        ++tenThousandths;
+    return negative ? -tenThousandths : tenThousandths;
+}
+
+QString rateText(qint64 tenThousandths)
+{
+    const qint64 magnitude = tenThousandths < 0 ? -tenThousandths : tenThousandths;
+    return QStringLiteral("%1%2.%3")
+        .arg(tenThousandths < 0 ? QStringLiteral("-") : QString())
+        .arg(magnitude / 10000)
+        .arg(magnitude % 10000, 4, 10, QLatin1Char('0'));
+}
+
 } // namespace numbers

@@ -26,6 +26,14 @@ double roundAmount(double amount, int digits = 0);
 /// the text it was typed as; a stored text that is not a number is read as val() reads it.
 QString decimalText(const QVariant &value);
 
+/// A stored rate in ten-thousandths of a percent, read from its shortest decimal text and rounded
+/// half away from zero at the fifth decimal, so that a typed 10.12345 is 101235 whatever its
+/// binary value; a stored text is read as val() reads it.
+qint64 rateTenThousandths(const QVariant &stored);
+
+/// A rate in ten-thousandths of a percent with exactly four decimals: 101235 is "10.1235".
+QString rateText(qint64 tenThousandths);
+
 /// What a whole number that leaves its range stops with, as the platform has always said it.
 inline constexpr char overflowMessage[] = "Overflow";
 

@@ -8,9 +8,11 @@
 #include "core/startup.h"
 #include "core/storeaccess.h"
 #include "core/storeerror.h"
+#include "core/formtraits.h"
+#include "filingcheck/filingcheck.h"
+#include "returnfile/checklines.h"
 #include "returnfile/controltotals.h"
 #include "returnfile/generationflow.h"
-#include "core/formtraits.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -44,7 +46,10 @@ std::optional<BatchGeneration::Options> BatchGeneration::parse(const QStringList
     const QCommandLineOption output(QStringLiteral("output"), {}, QStringLiteral("FILE"));
     const QCommandLineOption all(QStringLiteral("all"));
     const QCommandLineOption wait(QStringLiteral("wait"), {}, QStringLiteral("SECONDS"));
-    parser.addOptions({store, form, quarter, company, output, all, wait});
+    const QCommandLineOption check(QStringLiteral("check"));
+    const QCommandLineOption strict(QStringLiteral("strict"));
+    const QCommandLineOption filedOn(QStringLiteral("filed-on"), {}, QStringLiteral("DATE"));
+    parser.addOptions({store, form, quarter, company, output, all, wait, check, strict, filedOn});
     if (!parser.parse(arguments)) {
         error = parser.errorText();
         return std::nullopt;
@@ -65,6 +70,10 @@ std::optional<BatchGeneration::Options> BatchGeneration::parse(const QStringList
     bool waitRead = true;
     if (parser.isSet(wait))
         options.waitSeconds = parser.value(wait).toInt(&waitRead);
+    options.check = parser.isSet(check);
+    options.strict = parser.isSet(strict);
+    if (parser.isSet(filedOn))
+        options.filedOn = QDate::fromString(parser.value(filedOn), QStringLiteral("dd/MM/yyyy"));
 
     if (options.storePath.isEmpty())
         error = QStringLiteral("--store is required");
@@ -80,6 +89,12 @@ std::optional<BatchGeneration::Options> BatchGeneration::parse(const QStringList
         error = QStringLiteral("--output needs a file name");
     else if (!waitRead || options.waitSeconds < 0)
         error = QStringLiteral("--wait takes a number of seconds");
+    else if (parser.isSet(filedOn) && !options.filedOn.isValid())
+        error = QStringLiteral("--filed-on takes a date as DD/MM/YYYY");
+    else if (options.check && parser.isSet(output))
+        error = QStringLiteral("--check writes no file and cannot go with --output");
+    else if (options.check && options.strict)
+        error = QStringLiteral("--strict refuses a file and cannot go with --check");
     if (!error.isEmpty())
         return std::nullopt;
     return options;
@@ -89,13 +104,20 @@ QString BatchGeneration::usage()
 {
     return QStringLiteral(
         "usage: kelvora-returns --store PATH --form FORM --quarter Q --company ID_OR_TAN "
-        "[--output FILE] [--wait SECONDS]\n"
-        "       kelvora-returns --store PATH --form FORM --quarter Q --all [--wait SECONDS]\n"
+        "[--output FILE] [--strict] [--filed-on DATE] [--wait SECONDS]\n"
+        "       kelvora-returns --store PATH --form FORM --quarter Q --all [--strict]\n"
+        "       [--filed-on DATE] [--wait SECONDS]\n"
+        "       kelvora-returns --check --store PATH --form FORM --quarter Q\n"
+        "       (--company ID_OR_TAN | --all) [--filed-on DATE] [--wait SECONDS]\n"
         "Writes the return file of each saved Statement asked for and logs the generation.\n"
         "FORM is 24Q, 26Q, 27Q or 27EQ; Q is Q1 to Q4. Files go to eReturns beside the store.\n"
+        "The pre-filing check runs first: the number of its errors goes to standard error,\n"
+        "and --strict refuses a Statement with errors. --check prints the findings, the\n"
+        "interest under section 201(1A) and the late fee under section 234E as of the filing\n"
+        "date (DD/MM/YYYY, today unless --filed-on says), and writes nothing.\n"
         "A store in use by another program is waited for, 30 seconds unless --wait says.\n"
-        "Exit status: 0 every file written, 1 a Statement refused, 2 usage error, 3 store or\n"
-        "file-system failure.\n");
+        "Exit status: 0 every file written (with --check: no error found), 1 a Statement\n"
+        "refused (errors found), 2 usage error, 3 store or file-system failure.\n");
 }
 
 BatchGeneration::BatchGeneration(QTextStream &out, QTextStream &err) : m_out(out), m_err(err) {}
@@ -113,10 +135,13 @@ int BatchGeneration::run(const Options &options, const QDateTime &now)
     try {
         // Under the store's lock, brought up to date and with its folder of returns, as the
         // program's start leaves it.
-        opened = storeaccess::openForBatch(options.storePath, storeaccess::Access::Write,
-                                           std::chrono::seconds(options.waitSeconds));
+        opened = storeaccess::openForBatch(
+            options.storePath,
+            options.check ? storeaccess::Access::Read : storeaccess::Access::Write,
+            std::chrono::seconds(options.waitSeconds));
         const DataStore &store = *opened.store;
-        startup::createReturnsFolder(store.folder());
+        if (!options.check)
+            startup::createReturnsFolder(store.folder());
 
         const QString statements =
             QStringLiteral("SELECT BasicIfoID, CompID FROM %1 WHERE AsstID = ? AND Quarter = ?")
@@ -147,9 +172,15 @@ int BatchGeneration::run(const Options &options, const QDateTime &now)
     }
 
     QMap<Status, int> counts;
-    for (const Target &target : targets)
-        ++counts[generateOne(*opened.store, *form, options.quarter, target, options.output, now)];
-    if (options.all) {
+    for (const Target &target : targets) {
+        ++counts[options.check ? checkOne(*opened.store, *form, options, target, now)
+                               : generateOne(*opened.store, *form, options, target, now)];
+    }
+    if (options.all && options.check) {
+        m_out << "checked " << counts.value(AllWritten) + counts.value(Refused)
+              << ", with errors " << counts.value(Refused) << ", failed "
+              << counts.value(StoreFailure) << '\n';
+    } else if (options.all) {
         m_out << "generated " << counts.value(AllWritten) << ", refused "
               << counts.value(Refused) << ", failed " << counts.value(StoreFailure) << '\n';
     }
@@ -161,9 +192,8 @@ int BatchGeneration::run(const Options &options, const QDateTime &now)
 
 BatchGeneration::Status BatchGeneration::generateOne(const DataStore &store,
                                                      const FormTraits &form,
-                                                     const QString &quarter,
-                                                     const Target &target,
-                                                     const QString &output, const QDateTime &now)
+                                                     const Options &options,
+                                                     const Target &target, const QDateTime &now)
 {
     try {
         QSqlQuery statement = store.exec(
@@ -180,7 +210,7 @@ BatchGeneration::Status BatchGeneration::generateOne(const DataStore &store,
                                        {target.compId})
                               .toInt();
         request.compId = target.compId;
-        request.quarter = quarter;
+        request.quarter = options.quarter;
         request.basicInfoId = QString::number(target.basicInfoId);
         request.declaredDeductees = records::nullToText(statement.value(0));
         request.declaredChallans = records::nullToText(statement.value(1));
@@ -192,8 +222,21 @@ BatchGeneration::Status BatchGeneration::generateOne(const DataStore &store,
         if (preparation.failure)
             return refuse(store, target.compId, preparation.failure->message.text);
         GenerationPanel &panel = *preparation.panel;
-        if (!output.isEmpty())
-            panel.fileName = QFileInfo(output).absoluteFilePath();
+        if (!options.output.isEmpty())
+            panel.fileName = QFileInfo(options.output).absoluteFilePath();
+
+        // The authority's rules, as the generation panel runs them first.
+        const int errors = filingcheck::FilingCheck(store, form)
+                               .run(target.basicInfoId, options.filingDate(now))
+                               .errors();
+        const QString found = QStringLiteral("The pre-filing check found %1 error(s), which "
+                                             "the authority's validation rejects; --check "
+                                             "lists them")
+                                  .arg(errors);
+        if (errors > 0 && options.strict)
+            return refuse(store, target.compId, found);
+        if (errors > 0)
+            m_err << "check\t" << companyText(store, target.compId) << '\t' << found << '\n';
 
         // Two companies with the same prefix would silently share one file.
         const QString key = QFileInfo(panel.fileName).absoluteFilePath();
@@ -221,8 +264,26 @@ BatchGeneration::Status BatchGeneration::generateOne(const DataStore &store,
     }
 }
 
-BatchGeneration::Status BatchGeneration::refuse(const DataStore &store, int compId,
-                                                const QString &message, Status status)
+BatchGeneration::Status BatchGeneration::checkOne(const DataStore &store,
+                                                  const FormTraits &form,
+                                                  const Options &options, const Target &target,
+                                                  const QDateTime &now)
+{
+    try {
+        const filingcheck::CheckResult result =
+            filingcheck::FilingCheck(store, form).run(target.basicInfoId, options.filingDate(now));
+        // Of several Statements, each one's lines follow the company they are of.
+        if (options.all)
+            m_out << "company\t" << companyText(store, target.compId) << '\n';
+        for (const QString &line : checkLines(result))
+            m_out << line << '\n';
+        return result.errors() > 0 ? Refused : AllWritten;
+    } catch (const StoreError &error) {
+        return refuse(store, target.compId, error.description(), StoreFailure);
+    }
+}
+
+QString BatchGeneration::companyText(const DataStore &store, int compId)
 {
     QString name;
     QString tan;
@@ -234,10 +295,16 @@ BatchGeneration::Status BatchGeneration::refuse(const DataStore &store, int comp
             tan = records::nullToText(company.value(1));
         }
     } catch (const StoreError &) {
-        // The refusal is still told, with the company's id alone.
+        // The company is still told, by its id alone.
     }
+    return QStringLiteral("%1 (company %2, TAN %3)").arg(name).arg(compId).arg(tan);
+}
+
+BatchGeneration::Status BatchGeneration::refuse(const DataStore &store, int compId,
+                                                const QString &message, Status status)
+{
     // One line per Statement: the line break of the deductee-count message is folded.
-    m_err << (status == Refused ? "refused\t" : "failed\t") << name << " (company " << compId
-          << ", TAN " << tan << ")\t" << message.simplified() << '\n';
+    m_err << (status == Refused ? "refused\t" : "failed\t") << companyText(store, compId)
+          << '\t' << message.simplified() << '\n';
     return status;
 }

@@ -4,7 +4,6 @@
 #include "core/numbers.h"
 
 #include <QDate>
-#include <QLocale>
 #include <QVariant>
 
 namespace {
@@ -103,25 +102,5 @@ QString RecordLine::rateText(const QVariant &stored)
 {
     if (stored.isNull())
         return {};
-    bool ok = false;
-    double rate = stored.toDouble(&ok);
-    if (!ok)
-        rate = numbers::val(stored.toString());
-    QString digits = QString::number(rate, 'f', QLocale::FloatingPointShortest);
-    const bool negative = digits.startsWith(u'-');
-    if (negative)
-        digits.remove(0, 1);
-    const qsizetype point = digits.indexOf(u'.');
-    const QString fraction =
-        (point < 0 ? QString() : digits.mid(point + 1)) + QStringLiteral("00000");
-    qint64 tenThousandths = (point < 0 ? digits : digits.left(point)).toLongLong() * 10000
-                            + fraction.left(4).toLongLong();
-    if (fraction.at(4) >= u'5')
-        ++tenThousandths;
-    if (tenThousandths == 0)
-        return QStringLiteral("0.0000");
-    return QStringLiteral("%1%2.%3")
-        .arg(negative ? QStringLiteral("-") : QString())
-        .arg(tenThousandths / 10000)
-        .arg(tenThousandths % 10000, 4, 10, QLatin1Char('0'));
+    return numbers::rateText(numbers::rateTenThousandths(stored));
 }

@@ -13,7 +13,7 @@ void addStatement(const TestStore &data, FormKind form, int basicInfoId, int com
                  {"TanNO", "BLRK01234E"}, {"PanNo", "AAACK1234F"}, {"CompName", compName},
                  {"Address1", "MG ROAD"}, {"StateCode", "15"}, {"Pincode", "560001"},
                  {"Employer", 0}, {"Salary", 0}, {"Status", 1}, {"PersonName", "R NAIR"},
-                 {"Designation", "MANAGER"}, {"NoChallan", noChallan},
+                 {"Designation", "MANAGER"}, {"pPincode", "560001"}, {"NoChallan", noChallan},
                  {"NoDeductee", noDeductee}, {"AsstYear", "202728"}, {"FAYear", "202627"},
                  {"AppRcptNo", "0"}, {"RevisedRtn", "R"}, {"RevisedRcptNo", revisedRcptNo},
                  {"Quarter", quarter}});

@@ -19,17 +19,27 @@ using namespace generationrows;
 
 namespace {
 
-/// A good 26Q Statement: two challans, seven rows, 1003.00 deposited.
+/// A good 26Q Statement, in which the pre-filing check finds nothing in Q2: two challans,
+/// seven rows at 10%, 1003.00 deposited.
 void addGoodStatement(const TestStore &data, int basicInfoId, int compId, const QString &quarter)
 {
     addStatement(data, FormKind::Form26Q, basicInfoId, compId, quarter, 2, 7);
     const int challan = basicInfoId * 10;
-    addChallan(data, FormKind::Form26Q, challan + 1, basicInfoId, compId, 1, 1000.50);
-    addChallan(data, FormKind::Form26Q, challan + 2, basicInfoId, compId, 2, 2.50);
+    addChallan(data, FormKind::Form26Q, challan + 1, basicInfoId, compId, 1, 601.50);
+    addChallan(data, FormKind::Form26Q, challan + 2, basicInfoId, compId, 2, 401.50);
     for (int row = 1; row <= 7; ++row) {
         addAnnexureRow(data, FormKind::Form26Q, basicInfoId * 100 + row, basicInfoId,
                        challan + (row <= 3 ? 1 : 2), row, 1000, 100);
     }
+}
+
+/// A 26Q Statement of one challan and one row, as the check finds it.
+void addOneRowStatement(const TestStore &data, int basicInfoId, int compId, double tax)
+{
+    addStatement(data, FormKind::Form26Q, basicInfoId, compId, QStringLiteral("Q2"), 1, 1);
+    addChallan(data, FormKind::Form26Q, basicInfoId * 10, basicInfoId, compId, 1, tax);
+    addAnnexureRow(data, FormKind::Form26Q, basicInfoId * 100, basicInfoId, basicInfoId * 10, 1,
+                   tax * 10, tax);
 }
 
 } // namespace
@@ -56,6 +66,14 @@ private slots:
         addAnnexureRow(m_data, FormKind::Form26Q, 601, 6, 61, 1, 100, 10);
         // A 24Q Statement of the same company and quarter is another form's.
         addStatement(m_data, FormKind::Form24Q, 7, 11, QStringLiteral("Q2"), 0, 0);
+        // Deposited on 8 August, a day late: interest for July and August at 1.5%.
+        addOneRowStatement(m_data, 8, 13, 10000);
+        m_data.store().exec("UPDATE TranChallanE26 SET DtTrVoucher = '2026-08-08' "
+                            "WHERE BasicIfoID = 8");
+        // A PAN that the authority never allots: an error of the pre-filing check alone.
+        addOneRowStatement(m_data, 9, 14, 1000);
+        m_data.store().exec("UPDATE TranDeducteeE26 SET PAN = 'AAAPZ0000Z' WHERE BasicIfoID = 9");
+        m_data.store().exec("UPDATE TranDeducteeE26 SET Rate = 10");
     }
 
     void runs_data()
@@ -69,6 +87,24 @@ private slots:
         const QString refused = "refused\tNILGIRI TEA CO (company 12, TAN CHEN05678E)\tYou have "
                                 "specified to enter 3 deductee record(s), but have entered only "
                                 "1 record(s).";
+        const QString writtenAP1 = "DIR/eReturns/AP126QQ2.txt\tchallans 1\tdeductee rows 1\t"
+                                   "deposited 10000.00";
+        const QString writtenAP2 = "DIR/eReturns/AP226QQ2.txt\tchallans 1\tdeductee rows 1\t"
+                                   "deposited 1000.00";
+        // The pre-filing check's lines
+        const QString company = "company\t%1 (company %2, TAN %3)";
+        const QString rowCount = "error\tstatement\tNoDeductee\tThe number of deductee rows "
+                                 "declared is 3 and the Statement holds 1; the two are the same.";
+        const QString zeroPan = "error\tchallan 1 row 1\tPAN\tThe PAN AAAPZ0000Z has 0000 for "
+                                "its digits; a PAN's digits are never all zero.";
+        const QString interest = "warning\tchallan 1\tInterest\tInterest under section "
+                                 "201(1A) of 300.00 is due on this challan and its interest "
+                                 "holds 0.00; the interest is paid before filing.|"
+                                 "interest 201(1A)\tchallan 1\t300.00";
+        const QString noFee = "late fee 234E\t0.00";
+        const QString oneError = "APPLIED TWO (company 14, TAN TANAPPLIED)\tThe pre-filing "
+                                 "check found 1 error(s), which the authority's validation "
+                                 "rejects; --check lists them\n";
         const auto row = [](const char *name, const char *arguments, int exitCode,
                             const QString &out, const QString &err = {},
                             const QString &lock = {}) {
@@ -83,7 +119,8 @@ private slots:
             "refused\tKAVERI TEXTILES LTD (company 11, TAN BLRK01234E)\tYou need to save the "
             "Form before generating the Kelvora file\n");
         row("all of a quarter", "--form 26Q --quarter Q2 --all", 1,
-            written + "|generated 1, refused 1, failed 0", refused);
+            written + "|" + writtenAP1 + "|" + writtenAP2 + "|generated 3, refused 1, failed 0",
+            refused);
         row("an empty quarter", "--form 26Q --quarter Q3 --all", 0,
             "generated 0, refused 0, failed 0");
         row("unknown form", "--form 28Q --quarter Q2 --all", 2, "", "--form must be");
@@ -93,6 +130,42 @@ private slots:
             "no company with the id 99");
         row("TAN of two companies", "--form 26Q --quarter Q2 --company TANAPPLIED", 2, "",
             "belongs to the companies 13, 14");
+        row("check without errors",
+            "--check --form 26Q --quarter Q2 --company 11 --filed-on 15/10/2026", 0, noFee);
+        row("check with errors",
+            "--check --form 26Q --quarter Q2 --company 12 --filed-on 15/10/2026", 1,
+            rowCount + "|" + noFee);
+        row("check with interest and a late fee",
+            "--check --form 26Q --quarter Q2 --company 13 --filed-on 17/11/2026", 0,
+            "warning\tstatement\tOthers\tThe late fee under section 234E is 3400.00 as of "
+            "17/11/2026 and the challans' others hold 0.00 together; the fee is paid before "
+            "filing, in the others of a challan.|"
+                + interest + "|late fee 234E\t3400.00");
+        row("check of a quarter", "--check --form 26Q --quarter Q2 --all --filed-on 15/10/2026",
+            1,
+            QStringList{company.arg("KAVERI TEXTILES LTD", "11", "BLRK01234E"), noFee,
+                        company.arg("NILGIRI TEA CO", "12", "CHEN05678E"), rowCount, noFee,
+                        company.arg("APPLIED ONE", "13", "TANAPPLIED"), interest, noFee,
+                        company.arg("APPLIED TWO", "14", "TANAPPLIED"), zeroPan, noFee,
+                        "checked 4, with errors 2, failed 0"}
+                .join(u'|'));
+        row("check of a Statement not saved", "--check --form 27Q --quarter Q2 --company 11", 1,
+            "", "refused\tKAVERI TEXTILES LTD (company 11, TAN BLRK01234E)\tYou need to save "
+                "the Form before generating the Kelvora file\n");
+        row("errors counted, the file generated",
+            "--form 26Q --quarter Q2 --company 14 --filed-on 15/10/2026", 0, writtenAP2,
+            "check\t" + oneError);
+        row("strict refusing errors",
+            "--strict --form 26Q --quarter Q2 --company 14 --filed-on 15/10/2026", 1, "",
+            "refused\t" + oneError);
+        row("strict with no error",
+            "--strict --form 26Q --quarter Q2 --company 11 --filed-on 15/10/2026", 0, written);
+        row("check with a file", "--check --form 26Q --quarter Q2 --company 11 --output x.txt",
+            2, "", "--check writes no file");
+        row("check strictly", "--check --strict --form 26Q --quarter Q2 --company 11", 2, "",
+            "--strict refuses a file");
+        row("filed on no date", "--check --form 26Q --quarter Q2 --all --filed-on 31/02/2027", 2,
+            "", "--filed-on takes a date as DD/MM/YYYY");
         const char *const oneFile = "--form 26Q --quarter Q2 --company 11 --wait 0";
         row("lock of a crashed program", oneFile, 0, written, "", "crashed");
         row("empty lock of a power cut", oneFile, 0, written, "", "power cut (empty)");
@@ -119,12 +192,13 @@ private slots:
         QCOMPARE(code, exitCode);
         QCOMPARE(lines, QString(out).replace("DIR", m_data.folder()));
         QVERIFY2(errors.contains(err), qPrintable(errors));
+        // A file and its log row for each line that names a file; none with --check.
         int written = 0;
         for (const QString &line : out.split(u'|', Qt::SkipEmptyParts))
-            written += !line.startsWith(u"generated");
+            written += line.startsWith(u"DIR/");
         QCOMPARE(m_data.count("FileGenerationLog"), logRows + written);
         QCOMPARE(QFile::exists(m_data.folder() + "/eReturns/KAV26QQ2.txt"),
-                 out.startsWith("DIR/eReturns"));
+                 out.startsWith("DIR/eReturns/KAV"));
         QVERIFY(!leftLock.exists());
     }
 
@@ -156,7 +230,8 @@ private slots:
             run("--form 26Q --quarter Q1 --all", data.store().path());
         QCOMPARE(code, 1);
         QVERIFY(lines.startsWith(data.folder() + "/eReturns/26QQ1.txt\t"));
-        QVERIFY(errors.startsWith("refused\tSECOND LTD (company 22, TAN DELS02222E)"));
+        // The check's count of errors of each Statement of Q1, paid in July, stands beside.
+        QVERIFY(errors.contains("\nrefused\tSECOND LTD (company 22, TAN DELS02222E)"));
         QCOMPARE(data.text("SELECT group_concat(CompID) FROM FileGenerationLog"), "21");
     }
 

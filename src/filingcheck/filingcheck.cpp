@@ -1,0 +1,198 @@
+#include "filingcheck/filingcheck.h"
+
+#include "core/datastore.h"
+#include "core/exactamount.h"
+#include "core/fieldrules.h"
+#include "core/formtraits.h"
+#include "core/quarter.h"
+#include "filingcheck/interest.h"
+#include "filingcheck/latefee.h"
+#include "filingcheck/rulebook.h"
+#include "filingcheck/statementreader.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace filingcheck {
+
+namespace {
+
+/// The rules of one level that hold for the Statement's form and year.
+template<typename Facts>
+std::vector<const Rule<Facts> *> holding(std::span<const Rule<Facts>> book, FormKind form,
+                                         int year)
+{
+    std::vector<const Rule<Facts> *> rules;
+    for (const Rule<Facts> &rule : book) {
+        if (rule.holdsFor(form, year))
+            rules.push_back(&rule);
+    }
+    return rules;
+}
+
+/// Runs the rules of one level on one thing and keeps what they find.
+class Findings
+{
+public:
+    explicit Findings(const CheckContext &context) : m_context(context) {}
+
+    template<typename Facts>
+    void apply(const std::vector<const Rule<Facts> *> &rules, const Facts &facts, int challan,
+               int row)
+    {
+        for (const Rule<Facts> *rule : rules) {
+            m_hits.clear();
+            rule->test(facts, m_context, m_hits);
+            for (const Hit &hit : std::as_const(m_hits)) {
+                m_found.append({rule->severity, challan, row,
+                                rule->column ? QString::fromLatin1(rule->column) : hit.column,
+                                filled(rule->message, hit.values),
+                                QString::fromLatin1(rule->id)});
+            }
+        }
+    }
+
+    /// Errors first, then warnings, each by challan and row, the Statement's own first.
+    QList<Finding> ordered()
+    {
+        std::stable_sort(m_found.begin(), m_found.end(), [](const Finding &a, const Finding &b) {
+            return std::tuple(a.severity, a.challan, a.row)
+                   < std::tuple(b.severity, b.challan, b.row);
+        });
+        return m_found;
+    }
+
+private:
+    const CheckContext &m_context;
+    Hits m_hits;
+    QList<Finding> m_found;
+};
+
+/// The year the Statement's financial year starts in: from its own FAYear ("202627"), else
+/// from the store's assessment period, as the quarter's dates are; 0 when neither tells.
+int financialYearOf(const StatementValues &statement)
+{
+    bool read = false;
+    const int year = statement.faYear.left(4).toInt(&read);
+    if (read && statement.faYear.size() == 6 && year > 0)
+        return year;
+    return statement.assessmentYear;
+}
+
+/// Central and State Government deductors may pay by book entry, with a transfer voucher.
+bool paysByBookEntry(const QString &deductorType)
+{
+    return deductorType == u"A" || deductorType == u"S";
+}
+
+/// A Statement whose challans deposit nothing, in whole rupees as the file's header sums them.
+bool depositsNothing(const QList<ChallanValues> &challans)
+{
+    ExactAmount deposited;
+    for (const ChallanValues &challan : challans)
+        deposited += ExactAmount::fromStored(challan.total.stored);
+    return deposited.roundedToRupees() <= Money();
+}
+
+const QString missingStatementText =
+    QStringLiteral("There is no saved Statement %1 of Form %2; save the Statement before "
+                   "checking it.");
+
+} // namespace
+
+QString Finding::where() const
+{
+    if (challan == 0)
+        return QStringLiteral("statement");
+    if (row == 0)
+        return QStringLiteral("challan %1").arg(challan);
+    return QStringLiteral("challan %1 row %2").arg(challan).arg(row);
+}
+
+int CheckResult::errors() const
+{
+    return int(std::count_if(findings.begin(), findings.end(), [](const Finding &finding) {
+        return finding.severity == Severity::Error;
+    }));
+}
+
+int CheckResult::warnings() const
+{
+    return int(findings.size()) - errors();
+}
+
+FilingCheck::FilingCheck(const DataStore &store, const FormTraits &form)
+    : m_store(store), m_form(form)
+{
+}
+
+CheckResult FilingCheck::run(int basicInfoId, QDate filedOn) const
+{
+    CheckResult result;
+    const StatementReader reader(m_store, m_form);
+    const std::optional<StatementValues> statement = reader.statement(basicInfoId);
+    if (!statement) {
+        result.findings.append({Severity::Error, 0, 0, QStringLiteral("BasicIfoID"),
+                                missingStatementText.arg(basicInfoId).arg(m_form.formType),
+                                QStringLiteral("STATEMENT")});
+        return result;
+    }
+    const QList<ChallanValues> challans = reader.challans(*statement);
+
+    CheckContext context{.form = m_form};
+    context.financialYear = financialYearOf(*statement);
+    const int quarterIndex = quarter::indexOf(statement->quarter);
+    const quarter::Period period = quarter::forIndex(quarterIndex, context.financialYear);
+    if (context.financialYear != 0 && period.isValid()) {
+        context.quarterFrom = fieldrules::sessionDate(period.fromDate);
+        context.quarterTo = fieldrules::sessionDate(period.toDate);
+    }
+    context.filedOn = filedOn;
+    context.governmentDeductor = paysByBookEntry(statement->deductorType);
+    context.nilStatement = depositsNothing(challans);
+
+    const FormKind form = m_form.kind;
+    const int year = context.financialYear;
+    const auto rowRulesHolding = holding(rowRules(), form, year);
+    const auto challanRulesHolding = holding(challanRules(), form, year);
+    Findings findings(context);
+    int rows = 0;
+    Money taxDeducted;
+    Money othersPaid;
+    for (const ChallanValues &challan : challans) {
+        interest::ChallanInterestWork work(
+            challan.slNo, challan.deposited.date,
+            context.governmentDeductor && challan.transferVoucherGiven, challan.interest.money);
+        Money rowsDeposited;
+        QDate latestDeduction;
+        int latestDeductionRow = 0;
+        reader.rows(basicInfoId, challan, [&](const RowValues &row) {
+            findings.apply(rowRulesHolding, row, challan.slNo, row.srlNo);
+            ++rows;
+            taxDeducted += row.total.money;
+            rowsDeposited += row.taxDeposited.money;
+            if (row.deductionDate.date.isValid() && row.deductionDate.date > latestDeduction) {
+                latestDeduction = row.deductionDate.date;
+                latestDeductionRow = row.srlNo;
+            }
+            work.addRow(row.srlNo, row.total.money, row.paymentDate.date,
+                        row.deductionDate.date, row.taxDeposited.money);
+        });
+        const ChallanInterest owed = work.result();
+        findings.apply(challanRulesHolding,
+                       ChallanFacts{challan, rowsDeposited, latestDeduction, latestDeductionRow,
+                                    owed},
+                       challan.slNo, 0);
+        if (owed.due > Money())
+            result.interest.append(owed);
+        othersPaid += challan.others.money;
+    }
+
+    result.lateFee = lateFee(form, quarterIndex, year, filedOn, taxDeducted, othersPaid);
+    findings.apply(holding(statementRules(), form, year),
+                   StatementFacts{*statement, int(challans.size()), rows, result.lateFee}, 0, 0);
+    result.findings = findings.ordered();
+    return result;
+}
+
+} // namespace filingcheck
