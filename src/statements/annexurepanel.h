@@ -33,6 +33,9 @@ public:
     void open();
     void readEntry();
     void showEntry();
+    /// The field that the sheet asked for takes the focus, as the panel's own move: the field
+    /// that loses it is not checked.
+    void showFocus();
 
 signals:
     /// Form 24Q's rows were turned into challans: the Statement's challans are new.
@@ -50,7 +53,6 @@ private:
     bool leaveBox(QWidget *box);
     void save();
     void changed(void (AnnexureSheet::*step)());
-    void showFocus();
     QLineEdit *box(const QString &name) const;
     QString label(const QString &text, int item) const;
 

@@ -329,3 +329,8 @@ QComboBox *BasicInfoPanel::combo(const QString &name) const
 {
     return qobject_cast<QComboBox *>(field(name));
 }
+
+void BasicInfoPanel::showFocus()
+{
+    m_path->focus(m_sheet.takeFocus());
+}

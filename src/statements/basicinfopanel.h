@@ -29,6 +29,9 @@ public:
     /// The sheet's basic information into the fields.
     void showInfo();
 
+    /// The field that the sheet asked for takes the focus, as the panel's own move.
+    void showFocus();
+
     /// A field by its objectName, or null.
     QWidget *field(const QString &name) const { return m_fields.value(name); }
 

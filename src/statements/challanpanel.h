@@ -32,6 +32,9 @@ public:
     /// The boxes into the sheet, and back.
     void readEntry();
     void showEntry();
+    /// The field that the sheet asked for takes the focus, as the panel's own move: the field
+    /// that loses it is not checked.
+    void showFocus();
 
 signals:
     /// End in the interest box or the section: on to the annexure rows.
@@ -47,7 +50,6 @@ private:
     bool leaveBox(QWidget *box);
     void save();
     void boxEdited();
-    void showFocus();
     QLineEdit *box(const QString &name) const;
 
     StatementSheet &m_statement;

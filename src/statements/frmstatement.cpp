@@ -12,13 +12,18 @@
 #include "statements/generationframe.h"
 #include "statements/salarypanel.h"
 #include "statements/challanpanel.h"
+#include "statements/check/findingfields.h"
+#include "statements/check/frmfilingcheck.h"
 
 #include <QCloseEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -106,6 +111,12 @@ void FrmStatement::buildButtons()
     m_makeFile = screenroutines::commandButton(QStringLiteral("&Generate File"),
                                                QStringLiteral("CmdMakeFile"), this);
     connect(m_makeFile, &QPushButton::clicked, this, &FrmStatement::makeFile);
+    m_check = screenroutines::commandButton(QStringLiteral("Chec&k"), QStringLiteral("cmdCheck"),
+                                            this);
+    m_check->setToolTip(QStringLiteral(
+        "Checks the saved Statement against the authority's validation rules, with the "
+        "interest and late fee due before filing."));
+    connect(m_check, &QPushButton::clicked, this, &FrmStatement::openCheck);
 
     const QString master = form.hasSalaryDetail ? QStringLiteral("&Employee Master")
                                                 : QStringLiteral("Deductee &Master");
@@ -129,6 +140,7 @@ void FrmStatement::layOut()
         panelButtons->addWidget(button);
     panelButtons->addSpacing(16);
     panelButtons->addWidget(m_makeFile);
+    panelButtons->addWidget(m_check);
     panelButtons->addStretch();
 
     auto *middle = new QHBoxLayout;
@@ -289,17 +301,10 @@ void FrmStatement::makeFile()
     request.declaredChallans = info.noChallan;
     request.listedAnnexureRows = m_annexureRows.rows().rowCount();
     request.listedChallans = m_challans.list().rowCount();
-    const auto save = [this] {
-        // What stands on the screen is saved first, as the Save button saves it.
-        const bool saved = m_sheet.save();
-        m_basicInfo->showInfo();
-        showAll();
-        return saved;
-    };
     GenerationPreparation preparation;
     try {
-        preparation =
-            GenerationFlow(m_sheet.session().store, m_sheet.form()).prepare(request, save);
+        preparation = GenerationFlow(m_sheet.session().store, m_sheet.form())
+                          .prepare(request, [this] { return saveForFile(); });
     } catch (const StoreError &error) {
         m_sheet.reportStoreError(error);
         return;
@@ -315,6 +320,84 @@ void FrmStatement::makeFile()
     m_generation->showPanel(*preparation.panel, QDateTime::currentDateTime(),
                             m_sheet.storedChallans() > 0);
     showGenerationFrame(true);
+}
+
+bool FrmStatement::saveForFile()
+{
+    // What stands on the screen is saved first, as the Save button saves it.
+    const bool saved = m_sheet.save();
+    m_basicInfo->showInfo();
+    showAll();
+    return saved;
+}
+
+void FrmStatement::openCheck()
+{
+    syncBasicInfo();
+    if (m_sheet.basicInfoId() == 0) {
+        m_boxes.show({GenerationFlow::notSavedText, appTitle, MessageIcon::Critical});
+        return;
+    }
+    if (!saveForFile())
+        return;
+    if (!m_checkScreen) {
+        const BasicInfo &info = m_sheet.info();
+        const QStringList heading = {info.compName, QStringLiteral("TAN ") + info.tan,
+                                     QStringLiteral("Form ") + m_sheet.form().formType,
+                                     m_sheet.session().curQuarter};
+        m_checkScreen = new FrmFilingCheck(
+            m_sheet.session().store, m_sheet.form(), m_sheet.basicInfoId(), heading,
+            [this](const filingcheck::Finding &finding) { return fieldLabel(finding); },
+            m_boxes);
+        connect(m_checkScreen, &FrmFilingCheck::findingChosen, this,
+                &FrmStatement::showFinding);
+        screenroutines::openBeside(this, m_checkScreen);
+    } else if (auto *frame = qobject_cast<QMdiSubWindow *>(m_checkScreen->parentWidget())) {
+        frame->mdiArea()->setActiveSubWindow(frame);
+    }
+    m_checkScreen->run();
+}
+
+QString FrmStatement::fieldLabel(const filingcheck::Finding &finding) const
+{
+    const QString control = findingfields::controlOf(m_sheet.form(), finding);
+    const QWidget *field = control.isEmpty() ? nullptr : findChild<QWidget *>(control);
+    for (const QLabel *label : findChildren<QLabel *>()) {
+        if (field && label->buddy() == field)
+            return label->text().remove(QRegularExpression(QStringLiteral("&(?!&)")))
+                .replace(QStringLiteral("&&"), QStringLiteral("&"))
+                .trimmed();
+    }
+    return finding.column;
+}
+
+void FrmStatement::showFinding(const filingcheck::Finding &finding)
+{
+    if (auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget()))
+        frame->mdiArea()->setActiveSubWindow(frame);
+    // The field takes the focus as the panel's own move: leaving the name would read the
+    // master's particulars over the row's own.
+    const QString control = findingfields::controlOf(m_sheet.form(), finding);
+    if (finding.challan == 0 && finding.row == 0) {
+        showPanel(Panel::BasicInfo);
+        m_sheet.requestFocus(control);
+        m_basicInfo->showFocus();
+    } else if (finding.row == 0) {
+        showPanel(Panel::Challan);
+        m_challans.loadRow(m_challans.list().find(&ChallanEntry::slNo, finding.challan));
+        m_challan->showEntry();
+        m_sheet.requestFocus(control);
+        m_challan->showFocus();
+    } else {
+        showPanel(Panel::Annexure);
+        const int grid = m_annexureRows.challans().find(&ChallanEntry::slNo, finding.challan);
+        if (grid >= 0)
+            m_annexureRows.chooseChallan(grid);
+        m_annexureRows.loadRow(m_annexureRows.rows().find(&AnnexureEntry::srlNo, finding.row));
+        m_annexure->showEntry();
+        m_sheet.requestFocus(control);
+        m_annexure->showFocus();
+    }
 }
 
 void FrmStatement::showGenerationFrame(bool shown)

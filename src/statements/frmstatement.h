@@ -4,10 +4,12 @@
 #include "statements/challansheet.h"
 #include "statements/statementsheet.h"
 
+#include <QPointer>
 #include <QWidget>
 
 class AnnexurePanel;
 class BasicInfoPanel;
+class FrmFilingCheck;
 class GenerationFrame;
 class SalaryPanel;
 class ChallanPanel;
@@ -17,6 +19,10 @@ class QPushButton;
 class QStackedWidget;
 struct FormTraits;
 struct Session;
+
+namespace filingcheck {
+struct Finding;
+}
 
 /**
  * The statement screen of one form (frmForm24, frmForm26, frmForm27 or frmForm27E): the
@@ -31,6 +37,9 @@ class FrmStatement : public QWidget
 public:
     FrmStatement(const FormTraits &form, Session &session, MessageBoxes &boxes,
                  QWidget *parent = nullptr);
+
+    /// The challan or row of a finding of the check on its panel, with its field focused.
+    void showFinding(const filingcheck::Finding &finding);
 
 signals:
     /// cmd(2): the employee or deductee master is to open, ready for a new party.
@@ -50,6 +59,10 @@ private:
     void coverForm(bool exportIt);
     void syncBasicInfo();
     void makeFile();
+    /// Saves what stands on the screen, as generation does; false when the save refused.
+    bool saveForFile();
+    void openCheck();
+    QString fieldLabel(const filingcheck::Finding &finding) const;
     void showGenerationFrame(bool shown);
 
     StatementSheet m_sheet;
@@ -67,6 +80,8 @@ private:
     QLabel *m_headCaption;
     QPushButton *m_panelButtons[4] = {};
     QPushButton *m_makeFile = nullptr;
+    QPushButton *m_check = nullptr;
+    QPointer<FrmFilingCheck> m_checkScreen;
     QPushButton *m_cmd[5] = {};
     bool m_opened = false;
     bool m_noPrompt = false; // a finished delete closes without the question

@@ -4,6 +4,8 @@
 #include "core/messageboxes.h"
 #include "core/screenroutines.h"
 #include "core/session.h"
+#include "core/storeerror.h"
+#include "filingcheck/filingcheck.h"
 #include "statements/statementsheet.h"
 
 #include <QFileDialog>
@@ -92,7 +94,10 @@ GenerationFrame::GenerationFrame(StatementSheet &statement, MessageBoxes &boxes,
     connect(m_print, &QPushButton::clicked, this, [this] { emit coverFormAsked(false); });
     connect(m_export, &QPushButton::clicked, this, [this] { emit coverFormAsked(true); });
     connect(hide, &QPushButton::clicked, this, &GenerationFrame::hideAsked);
+    m_checkSummary = new QLabel(this);
+    m_checkSummary->setObjectName(QStringLiteral("lblCheckFG"));
     auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_checkSummary);
     buttons->addStretch();
     for (QPushButton *button : {m_ok, m_print, m_export, hide})
         buttons->addWidget(button);
@@ -134,6 +139,7 @@ void GenerationFrame::showPanel(const GenerationPanel &panel, const QDateTime &n
     };
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
         field(value.key())->setText(value.value());
+    checkStatement(panel.basicInfoId, now.date());
     m_ok->setFocus();
 }
 
@@ -142,9 +148,30 @@ QString GenerationFrame::text(const QString &name) const
     return field(name)->text();
 }
 
+void GenerationFrame::checkStatement(int basicInfoId, QDate today)
+{
+    try {
+        m_checkErrors = filingcheck::FilingCheck(m_statement.session().store, m_statement.form())
+                            .run(basicInfoId, today)
+                            .errors();
+        m_checkSummary->setText(checkSummaryText.arg(m_checkErrors));
+    } catch (const StoreError &error) {
+        m_checkErrors = 0;
+        m_checkSummary->clear();
+        m_statement.reportStoreError(error);
+    }
+}
+
 void GenerationFrame::generate()
 {
     if (!m_panel)
+        return;
+    // The check's errors never stop the file, but it is written over them only on the user's
+    // word.
+    if (m_checkErrors > 0
+        && m_boxes.show({anywayQuestion.arg(m_checkErrors), appTitle, MessageIcon::Question,
+                         MessageButtons::YesNo, true})
+               != Answer::Yes)
         return;
     GenerationPanel panel = *m_panel;
     // What stands in the name's field is what the file and the log take.

@@ -8,6 +8,7 @@
 #include <optional>
 
 class MessageBoxes;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class StatementSheet;
@@ -23,9 +24,16 @@ class GenerationFrame : public QFrame
     Q_OBJECT
 
 public:
+    static inline const QString checkSummaryText =
+        QStringLiteral("Errors found by the check before filing: %1");
+    static inline const QString anywayQuestion = QStringLiteral(
+        "The check before filing found %1 error(s) for which the authority's validation "
+        "rejects a return. Generate the file anyway?");
+
     GenerationFrame(StatementSheet &statement, MessageBoxes &boxes, QWidget *parent = nullptr);
 
-    /// Fills the fields from a prepared panel; the file name can then be changed.
+    /// Fills the fields from a prepared panel and counts the errors of the check before filing;
+    /// the file name can then be changed.
     void showPanel(const GenerationPanel &panel, const QDateTime &now, bool hasChallans);
     /// A field's text as the user leaves it, for the cover form.
     QString text(const QString &name) const;
@@ -39,6 +47,7 @@ signals:
     void coverFormAsked(bool exportIt);
 
 private:
+    void checkStatement(int basicInfoId, QDate today);
     void generate();
     void chooseFile();
     QLineEdit *field(const QString &name) const { return m_fields.value(name); }
@@ -49,6 +58,8 @@ private:
     QPushButton *m_ok;
     QPushButton *m_print;
     QPushButton *m_export;
+    QLabel *m_checkSummary = nullptr;
+    int m_checkErrors = 0;
     std::optional<GenerationPanel> m_panel;
     std::function<int()> m_listedRows;
 };

@@ -128,7 +128,7 @@ void TestFrmStatement::rowsEnteredFromTheKeyboard()
     // whose Enter saves.
     typeAndEnter(screen, "94C");
     typeDateAndEnter(screen, f.boxes, "10/06/2026");
-    for (const char *text : {"0510001", "11", "", "1000.5", "10", "", "", "", "", "", "PAID"})
+    for (const char *text : {"0510001", "00011", "", "1000.5", "10", "", "", "", "", "", "PAID"})
         typeAndEnter(screen, text);
     auto *list = child<QTableView>(screen, "lstvChallan");
     QCOMPARE(list->model()->rowCount(), 1);
