@@ -138,6 +138,13 @@ click 913 631
 sleep 2
 screen form-27a
 
+# The check before filing of the same Statement, beside its screen.
+fresh
+keys alt+t o alt+s
+click 69 255
+keys Return
+screen statement-check
+
 # Form 16A of the quarter's deductees.
 fresh
 keys alt+r Down Down Down Down Return alt+s
