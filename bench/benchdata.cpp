@@ -45,11 +45,11 @@ std::unique_ptr<DataStore> freshStore(const QTemporaryDir &folder)
 
 QString pan(int serial, char status)
 {
-    return QStringLiteral("AB%1%2%3F")
+    return QStringLiteral("AB%1%2%3%4F")
         .arg(QChar(u'A' + serial % 26))
         .arg(QChar::fromLatin1(status))
         .arg(QChar(u'A' + serial / 26 % 26))
-        + QStringLiteral("%1").arg(serial % 10000, 4, 10, QLatin1Char('0'));
+        .arg(serial % 9999 + 1, 4, 10, QLatin1Char('0'));
 }
 
 Money amountFor(int serial)
@@ -136,7 +136,7 @@ void build26Q(const DataStore &store, int statement, int compId, int challans,
             const QString date = QStringLiteral("2026-0%1-%2").arg(7 + c % 3).arg(
                 1 + r % 28, 2, 10, QLatin1Char('0'));
             row.row({serial, statement, compId, 1, challanId, r, section, serial % 5000 + 1,
-                     serial % 3 ? "02" : "01", pan(serial, serial % 3 ? 'C' : 'P'),
+                     serial % 3 ? "02" : "01", pan(serial, serial % 3 ? 'P' : 'C'),
                      QString(), QStringLiteral("DEDUCTEE %1 ENTERPRISES").arg(serial),
                      QStringLiteral("SHOP %1").arg(serial % 500), "INDUSTRIAL ESTATE",
                      "HOSUR ROAD", "ELECTRONIC CITY", "BENGALURU", "KARNATAKA", "15", "560100",

@@ -47,7 +47,8 @@ public:
 /// A fresh store of the financial year 2026-27 in the folder, upgraded as a start leaves it.
 std::unique_ptr<DataStore> freshStore(const QTemporaryDir &folder);
 
-/// A valid PAN that differs from row to row; the fourth letter is the holder's status.
+/// A valid PAN that differs from row to row, its digits never 0000; the fourth letter is the
+/// holder's status.
 QString pan(int serial, char status);
 /// An amount with paise that changes from row to row.
 Money amountFor(int serial);

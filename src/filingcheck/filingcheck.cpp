@@ -11,6 +11,7 @@
 #include "filingcheck/statementreader.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <vector>
 
 namespace filingcheck {
@@ -88,11 +89,58 @@ bool paysByBookEntry(const QString &deductorType)
 /// A Statement whose challans deposit nothing, in whole rupees as the file's header sums them.
 bool depositsNothing(const QList<ChallanValues> &challans)
 {
-    ExactAmount deposited;
-    for (const ChallanValues &challan : challans)
-        deposited += ExactAmount::fromStored(challan.total.stored);
-    return deposited.roundedToRupees() <= Money();
+    try {
+        ExactAmount deposited;
+        for (const ChallanValues &challan : challans)
+            deposited += ExactAmount::fromStored(challan.total.stored);
+        return deposited.roundedToRupees() <= Money();
+    } catch (const std::range_error &) {
+        return false; // a sum past all reason deposits something
+    }
 }
+
+CheckContext contextOf(const FormTraits &form, const StatementValues &statement,
+                       const QList<ChallanValues> &challans, QDate filedOn)
+{
+    CheckContext context{.form = form};
+    context.financialYear = financialYearOf(statement);
+    context.quarterIndex = quarter::indexOf(statement.quarter);
+    const quarter::Period period = quarter::forIndex(context.quarterIndex, context.financialYear);
+    if (context.financialYear != 0 && period.isValid()) {
+        context.quarterFrom = fieldrules::sessionDate(period.fromDate);
+        context.quarterTo = fieldrules::sessionDate(period.toDate);
+    }
+    context.filedOn = filedOn;
+    context.governmentDeductor = paysByBookEntry(statement.deductorType);
+    context.nilStatement = depositsNothing(challans);
+    return context;
+}
+
+/// What a challan's rows add up to, as they are read.
+struct ChallanTally
+{
+    explicit ChallanTally(interest::ChallanInterestWork work) : interest(std::move(work)) {}
+
+    interest::ChallanInterestWork interest;
+    Money rowsDeposited;
+    QDate latestDeduction;
+    int latestDeductionRow = 0;
+
+    void add(const RowValues &row)
+    {
+        rowsDeposited += row.taxDeposited.money;
+        // Of rows deducted on the same last day, the first by SrlNo is named.
+        const QDate deducted = row.deductionDate.date;
+        if (deducted.isValid()
+            && (deducted > latestDeduction
+                || (deducted == latestDeduction && row.srlNo < latestDeductionRow))) {
+            latestDeduction = deducted;
+            latestDeductionRow = row.srlNo;
+        }
+        interest.addRow(row.srlNo, row.total.money, row.paymentDate.date, deducted,
+                        row.taxDeposited.money);
+    }
+};
 
 const QString missingStatementText =
     QStringLiteral("There is no saved Statement %1 of Form %2; save the Statement before "
@@ -138,57 +186,45 @@ CheckResult FilingCheck::run(int basicInfoId, QDate filedOn) const
         return result;
     }
     const QList<ChallanValues> challans = reader.challans(*statement);
-
-    CheckContext context{.form = m_form};
-    context.financialYear = financialYearOf(*statement);
-    const int quarterIndex = quarter::indexOf(statement->quarter);
-    const quarter::Period period = quarter::forIndex(quarterIndex, context.financialYear);
-    if (context.financialYear != 0 && period.isValid()) {
-        context.quarterFrom = fieldrules::sessionDate(period.fromDate);
-        context.quarterTo = fieldrules::sessionDate(period.toDate);
-    }
-    context.filedOn = filedOn;
-    context.governmentDeductor = paysByBookEntry(statement->deductorType);
-    context.nilStatement = depositsNothing(challans);
+    const CheckContext context = contextOf(m_form, *statement, challans, filedOn);
 
     const FormKind form = m_form.kind;
     const int year = context.financialYear;
     const auto rowRulesHolding = holding(rowRules(), form, year);
-    const auto challanRulesHolding = holding(challanRules(), form, year);
     Findings findings(context);
+    std::vector<ChallanTally> tallies;
+    tallies.reserve(challans.size());
+    for (const ChallanValues &challan : challans) {
+        const bool bookEntry = context.governmentDeductor && challan.transferVoucherGiven;
+        tallies.emplace_back(interest::ChallanInterestWork(
+            challan.slNo, challan.deposited.date, bookEntry, challan.interest.money));
+    }
     int rows = 0;
     Money taxDeducted;
+    reader.rows(basicInfoId, challans, [&](int index, const RowValues &row) {
+        findings.apply(rowRulesHolding, row, challans.at(index).slNo, row.srlNo);
+        ++rows;
+        taxDeducted += row.total.money;
+        tallies[index].add(row);
+    });
+
+    const auto challanRulesHolding = holding(challanRules(), form, year);
     Money othersPaid;
-    for (const ChallanValues &challan : challans) {
-        interest::ChallanInterestWork work(
-            challan.slNo, challan.deposited.date,
-            context.governmentDeductor && challan.transferVoucherGiven, challan.interest.money);
-        Money rowsDeposited;
-        QDate latestDeduction;
-        int latestDeductionRow = 0;
-        reader.rows(basicInfoId, challan, [&](const RowValues &row) {
-            findings.apply(rowRulesHolding, row, challan.slNo, row.srlNo);
-            ++rows;
-            taxDeducted += row.total.money;
-            rowsDeposited += row.taxDeposited.money;
-            if (row.deductionDate.date.isValid() && row.deductionDate.date > latestDeduction) {
-                latestDeduction = row.deductionDate.date;
-                latestDeductionRow = row.srlNo;
-            }
-            work.addRow(row.srlNo, row.total.money, row.paymentDate.date,
-                        row.deductionDate.date, row.taxDeposited.money);
-        });
-        const ChallanInterest owed = work.result();
+    for (qsizetype index = 0; index < challans.size(); ++index) {
+        const ChallanValues &challan = challans.at(index);
+        const ChallanTally &tally = tallies[index];
+        const ChallanInterest owed = tally.interest.result();
         findings.apply(challanRulesHolding,
-                       ChallanFacts{challan, rowsDeposited, latestDeduction, latestDeductionRow,
-                                    owed},
+                       ChallanFacts{challan, tally.rowsDeposited, tally.latestDeduction,
+                                    tally.latestDeductionRow, owed},
                        challan.slNo, 0);
         if (owed.due > Money())
             result.interest.append(owed);
         othersPaid += challan.others.money;
     }
 
-    result.lateFee = lateFee(form, quarterIndex, year, filedOn, taxDeducted, othersPaid);
+    result.lateFee =
+        lateFee(form, context.quarterIndex, year, filedOn, taxDeducted, othersPaid);
     findings.apply(holding(statementRules(), form, year),
                    StatementFacts{*statement, int(challans.size()), rows, result.lateFee}, 0, 0);
     result.findings = findings.ordered();

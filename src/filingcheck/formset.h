@@ -18,6 +18,6 @@ inline constexpr FormSet form27Q = formSet(FormKind::Form27Q);
 inline constexpr FormSet form27EQ = formSet(FormKind::Form27EQ);
 /// The forms whose rows are deductees or collectees, with a code, a section and a rate.
 inline constexpr FormSet deducteeForms = form26Q | form27Q | form27EQ;
-inline constexpr FormSet allForms = form24Q | deducteeForms;
+inline constexpr FormSet everyForm = form24Q | deducteeForms;
 
 } // namespace filingcheck

@@ -31,7 +31,5 @@ inline constexpr char16_t companyKind = u'C';
 
 /// What a deductor without a PAN of its own gives: a government office.
 inline const QString panNotRequired = QStringLiteral("PANNOTREQD");
-/// What a deductor gives while its TAN is applied for; a return is not filed under it.
-inline const QString tanApplied = QStringLiteral("TANAPPLIED");
 
 } // namespace filingcheck::identity

@@ -3,6 +3,8 @@
 #include "filingcheck/duedates.h"
 #include "filingcheck/storedvalues.h"
 
+#include <algorithm>
+
 namespace filingcheck::interest {
 
 namespace {
@@ -92,35 +94,42 @@ void ChallanInterestWork::addRow(int srlNo, Money taxDeducted, QDate paid, QDate
         const int rate = ratesOn(paid).lateDeduction;
         const Exact owed = Exact(taxDeducted.paise()) * rate * months;
         m_lateDeduction += owed;
-        m_result.working << QStringLiteral("Row %1: tax %2 on a payment or credit of %3, "
-                                           "deducted on %4: %5 at %6 = %7")
-                                .arg(srlNo)
-                                .arg(taxDeducted.toText(), dateText(paid), dateText(deducted),
-                                     counted(months, QStringLiteral("month")), percentText(rate),
-                                     exactText(owed));
+        const QString line = QStringLiteral("Row %1: tax %2 on a payment or credit of %3, "
+                                            "deducted on %4: %5 at %6 = %7")
+                                 .arg(QString::number(srlNo), taxDeducted.toText(),
+                                      dateText(paid), dateText(deducted),
+                                      counted(months, QStringLiteral("month")),
+                                      percentText(rate), exactText(owed));
+        m_rowWorking.append({srlNo, line});
     }
-    const QDate due = duedates::depositDue(deducted, m_bookEntry);
-    if (!due.isValid() || m_deposited <= due || deposited <= Money())
+    // Nothing is due before the day of deduction; most deposits are not late.
+    if (!deducted.isValid() || m_deposited <= deducted || deposited <= Money())
         return;
-    if (const int months = monthsOrPart(deducted, m_deposited); months > 0) {
-        const int rate = ratesOn(deducted).lateDeposit;
-        const Exact owed = Exact(deposited.paise()) * rate * months;
-        m_lateDeposit += owed;
-        m_result.working << QStringLiteral("Row %1: tax %2 deducted on %3, due by %4%5, "
-                                           "deposited on %6: %7 at %8 = %9")
-                                .arg(srlNo)
-                                .arg(deposited.toText(), dateText(deducted), dateText(due),
-                                     m_bookEntry ? QStringLiteral(" (a book entry: the same "
-                                                                  "day)")
-                                                 : QString(),
-                                     dateText(m_deposited), counted(months, QStringLiteral("month")),
-                                     percentText(rate), exactText(owed));
-    }
+    const QDate due = duedates::depositDue(deducted, m_bookEntry);
+    if (m_deposited <= due)
+        return;
+    const int months = monthsOrPart(deducted, m_deposited);
+    const int rate = ratesOn(deducted).lateDeposit;
+    const Exact owed = Exact(deposited.paise()) * rate * months;
+    m_lateDeposit += owed;
+    const QString line =
+        QStringLiteral("Row %1: tax %2 deducted on %3, due by %4%5, deposited on %6: %7 at %8 "
+                       "= %9")
+            .arg(QString::number(srlNo), deposited.toText(), dateText(deducted), dateText(due),
+                 m_bookEntry ? QStringLiteral(" (a book entry: the same day)") : QString(),
+                 dateText(m_deposited), counted(months, QStringLiteral("month")),
+                 percentText(rate), exactText(owed));
+    m_rowWorking.append({srlNo, line});
 }
 
 ChallanInterest ChallanInterestWork::result() const
 {
     ChallanInterest result = m_result;
+    QList<std::pair<int, QString>> rowWorking = m_rowWorking;
+    std::stable_sort(rowWorking.begin(), rowWorking.end(),
+                     [](const auto &a, const auto &b) { return a.first < b.first; });
+    for (const auto &[srlNo, line] : std::as_const(rowWorking))
+        result.working << line;
     result.lateDeduction = toMoney(m_lateDeduction);
     result.lateDeposit = toMoney(m_lateDeposit);
     const Exact together = m_lateDeduction + m_lateDeposit;

@@ -28,7 +28,7 @@ public:
     ChallanInterestWork(int slNo, QDate deposited, bool bookEntry, Money paid);
 
     /// One row: the tax deducted on a payment or credit, and the tax it deposited. Dates that
-    /// are not dates owe nothing here; the rules tell of them.
+    /// are not dates owe nothing here; the rules tell of them. Rows may come in any order.
     void addRow(int srlNo, Money taxDeducted, QDate paid, QDate deducted, Money deposited);
 
     /// The two parts to the paisa, and the interest due: their exact sum rounded once to whole
@@ -41,6 +41,7 @@ private:
     using Exact = __int128;
 
     ChallanInterest m_result;
+    QList<std::pair<int, QString>> m_rowWorking; ///< by SrlNo, put in its order at the end
     QDate m_deposited;
     bool m_bookEntry;
     Exact m_lateDeduction = 0;

@@ -54,7 +54,7 @@ constexpr int withoutPanOtherwise = 20;
 std::optional<qint64> sectionFloor(const QString &section, QDate paid)
 {
     for (const Floor &floor : floors) {
-        if (section.compare(QLatin1String(floor.section), Qt::CaseInsensitive) != 0)
+        if (section != QLatin1String(floor.section))
             continue;
         if ((floor.from.isValid() && paid < floor.from) || (floor.to.isValid() && paid > floor.to))
             continue;
@@ -66,9 +66,7 @@ std::optional<qint64> sectionFloor(const QString &section, QDate paid)
 int withoutPanPercent(FormKind form, const QString &section)
 {
     for (const WithoutPan &line : withoutPan) {
-        if (line.form == form
-            && (!line.section
-                || section.compare(QLatin1String(line.section), Qt::CaseInsensitive) == 0))
+        if (line.form == form && (!line.section || section == QLatin1String(line.section)))
             return line.percent;
     }
     return withoutPanOtherwise;

@@ -29,15 +29,22 @@ const RowAmount rowAmounts[] = {
     {"TaxAmount", "Tax Deposited", &RowValues::taxDeposited},
 };
 
-/// The amount columns of the row's form: 27EQ's rows add the value of purchase.
+const RowAmount purchase = {nullptr, "Total Value Of Purchase", &RowValues::purchase};
+
+/// The amount columns of the row's form: 27EQ's rows add the value of purchase. A hit names
+/// its column by @p column, the purchase column by the form's traits.
 template<typename Each>
 void forEachAmount(const RowValues &row, const CheckContext &context, Each each)
 {
     for (const RowAmount &column : rowAmounts)
-        each(QLatin1String(column.column), QLatin1String(column.label), row.*column.amount);
+        each(column, row.*column.amount);
     if (!context.form.purchaseColumn.isEmpty())
-        each(context.form.purchaseColumn, QLatin1String("Total Value Of Purchase"),
-             row.purchase);
+        each(purchase, row.purchase);
+}
+
+QString columnOf(const RowAmount &amount, const CheckContext &context)
+{
+    return amount.column ? QString::fromLatin1(amount.column) : context.form.purchaseColumn;
 }
 
 bool isPan(const QString &pan)
@@ -118,7 +125,7 @@ void nonCompanyPan(const RowValues &row, const CheckContext &, Hits &hits)
 
 void panReference(const RowValues &row, const CheckContext &, Hits &hits)
 {
-    if (identity::isPanPlaceholder(row.pan) && row.panRef.isEmpty())
+    if (identity::isPanPlaceholder(row.pan) && !row.panRefGiven)
         hits.append({{row.pan}});
 }
 
@@ -136,16 +143,18 @@ void withoutPanRate(const RowValues &row, const CheckContext &context, Hits &hit
 
 void nameLength(const RowValues &row, const CheckContext &context, Hits &hits)
 {
-    if (row.name.size() > longestName)
-        hits.append({{QString::number(row.name.size())}, context.form.partyNameColumn});
+    if (row.nameLength > longestName)
+        hits.append({{QString::number(row.nameLength)}, context.form.partyNameColumn});
 }
 
 void rowAmountText(const RowValues &row, const CheckContext &context, Hits &hits)
 {
-    forEachAmount(row, context, [&](const QString &column, const QString &label,
-                                    const StoredAmount &amount) {
-        if (amount.isText())
-            hits.append({{label, amount.shownText(), amount.money.toText()}, column});
+    forEachAmount(row, context, [&](const RowAmount &column, const StoredAmount &amount) {
+        if (amount.isText()) {
+            hits.append({{QString::fromLatin1(column.label), amount.shownText(),
+                          amount.money.toText()},
+                         columnOf(column, context)});
+        }
     });
     if (!row.rateStored.isNull() && row.rateStored.typeId() == QMetaType::QString) {
         hits.append({{QStringLiteral("Rate"), shown(row.rateStored.toString()),
@@ -156,10 +165,11 @@ void rowAmountText(const RowValues &row, const CheckContext &context, Hits &hits
 
 void rowAmountNegative(const RowValues &row, const CheckContext &context, Hits &hits)
 {
-    forEachAmount(row, context, [&](const QString &column, const QString &label,
-                                    const StoredAmount &amount) {
-        if (amount.money < Money())
-            hits.append({{label, amount.money.toText()}, column});
+    forEachAmount(row, context, [&](const RowAmount &column, const StoredAmount &amount) {
+        if (amount.money < Money()) {
+            hits.append({{QString::fromLatin1(column.label), amount.money.toText()},
+                         columnOf(column, context)});
+        }
     });
     if (row.rate < 0) {
         hits.append({{QStringLiteral("Rate"), numbers::rateText(row.rate)},

@@ -20,7 +20,8 @@ struct CheckContext
 {
     const FormTraits &form;
     int financialYear = 0; ///< the year the Statement's financial year starts in; 0 unknown
-    QDate quarterFrom{};   ///< invalid when the Statement's quarter is not one
+    int quarterIndex = -1; ///< 0 to 3; -1 when the Statement's quarter is not one
+    QDate quarterFrom{};   ///< invalid when the Statement's quarter or year is unknown
     QDate quarterTo{};
     QDate filedOn{};
     bool governmentDeductor = false; ///< Central or State Government, which may book entries

@@ -5,6 +5,7 @@
 #include "core/numbers.h"
 #include "core/records.h"
 
+#include <QHash>
 #include <QSqlQuery>
 #include <QStringList>
 
@@ -14,7 +15,7 @@ namespace {
 
 QString textOf(const QSqlQuery &query, int index)
 {
-    return records::nullToText(query.value(index)).trimmed();
+    return records::nullToText(query.value(index));
 }
 
 } // namespace
@@ -22,16 +23,17 @@ QString textOf(const QSqlQuery &query, int index)
 StatementReader::StatementReader(const DataStore &store, const FormTraits &form)
     : m_store(store), m_form(form)
 {
-    // The columns a form lacks are read as Null, so that every form's rows read alike.
+    // The columns a form lacks are read as Null, so that every form's rows read alike. The
+    // name and the PAN reference lose the blanks at their ends, as in the file.
     const bool deductees = !form.salaryLayout;
     const QStringList columns = {
-        "SrlNo", "PAN", "PANRef", form.partyNameColumn, "AmtOfPayment", "PaymentDt",
-        "TaxAmount", "TaxDeductDt", "NonDeductionflg", "Tax", "Surcharge", "Cess", "Total",
-        deductees ? "Section" : "NULL", deductees ? "DeducteeCode" : "NULL",
-        deductees ? "Rate" : "NULL",
+        "ChallanId", "SrlNo", "PAN", "length(trim(PANRef))",
+        "length(trim(" + form.partyNameColumn + "))", "AmtOfPayment", "PaymentDt", "TaxAmount",
+        "TaxDeductDt", "NonDeductionflg", "Tax", "Surcharge", "Cess", "Total",
+        deductees ? "DeducteeCode" : "NULL", deductees ? "Rate" : "NULL",
         form.purchaseColumn.isEmpty() ? QStringLiteral("NULL") : form.purchaseColumn};
-    m_rowsSql = QStringLiteral("SELECT %1 FROM %2 WHERE ChallanId = ? AND BasicIfoID = ? "
-                               "ORDER BY SrlNo, %3")
+    // In the order of the table's key, which its index gives without sorting the Statement.
+    m_rowsSql = QStringLiteral("SELECT %1 FROM %2 WHERE BasicIfoID = ? ORDER BY ChallanId, %3")
                     .arg(columns.join(QStringLiteral(", ")), form.annexureTable,
                          form.annexureKey);
 }
@@ -72,9 +74,10 @@ QList<ChallanValues> StatementReader::challans(const StatementValues &statement)
     QSqlQuery query = m_store.exec(
         QStringLiteral("SELECT ChallnID, SlNo, AmountDeducted, Surcharge, EduCess, Interest, "
                        "Others, Total, ExInterest, ExtOthers, BankCode, TrVoucherNo, "
-                       "TransferVoucherNo, DtTrVoucher FROM %1 "
+                       "TransferVoucherNo, DtTrVoucher, %1 FROM %2 "
                        "WHERE BasicIfoID = ? AND CompID = ? ORDER BY SlNo, ChallnID")
-            .arg(m_form.challanTable),
+            .arg(m_form.challanHasSection() ? QStringLiteral("Section") : QStringLiteral("NULL"),
+                 m_form.challanTable),
         {statement.basicInfoId, statement.compId});
     QList<ChallanValues> challans;
     while (query.next()) {
@@ -91,39 +94,54 @@ QList<ChallanValues> StatementReader::challans(const StatementValues &statement)
         challan.othersClaimed = StoredAmount::ofChallan(query.value(9));
         challan.bankCode = textOf(query, 10);
         challan.serial = textOf(query, 11);
-        challan.transferVoucher = records::nullToText(query.value(12));
-        challan.transferVoucherGiven = !challan.transferVoucher.isEmpty();
+        const QVariant voucher = query.value(12);
+        challan.transferVoucher = voucher.toString();
+        challan.transferVoucherGiven = !voucher.isNull() && !challan.transferVoucher.isEmpty();
         challan.deposited = StoredDate::of(query.value(13));
+        // The section tables list upper-case codes.
+        challan.section = textOf(query, 14).toUpper();
         challans.append(challan);
     }
     return challans;
 }
 
-void StatementReader::rows(int basicInfoId, const ChallanValues &challan,
-                           const std::function<void(const RowValues &)> &each) const
+void StatementReader::rows(int basicInfoId, const QList<ChallanValues> &challans,
+                           const std::function<void(int, const RowValues &)> &each) const
 {
-    QSqlQuery query = m_store.exec(m_rowsSql, {challan.challanId, basicInfoId});
+    QHash<int, int> challanIndex;
+    for (int index = 0; index < challans.size(); ++index)
+        challanIndex.insert(challans.at(index).challanId, index);
+    QSqlQuery query = m_store.exec(m_rowsSql, {basicInfoId});
     RowValues row;
+    int challanId = -1;
+    int index = -1;
     while (query.next()) {
-        row.srlNo = query.value(0).toInt();
-        row.pan = textOf(query, 1);
-        row.panRef = textOf(query, 2);
-        row.name = textOf(query, 3);
-        row.paid = StoredAmount::ofRow(query.value(4));
-        row.paymentDate = StoredDate::of(query.value(5));
-        row.taxDeposited = StoredAmount::ofRow(query.value(6));
-        row.deductionDate = StoredDate::of(query.value(7));
-        row.flag = textOf(query, 8);
-        row.tax = StoredAmount::ofRow(query.value(9));
-        row.surcharge = StoredAmount::ofRow(query.value(10));
-        row.cess = StoredAmount::ofRow(query.value(11));
-        row.total = StoredAmount::ofRow(query.value(12));
-        row.section = textOf(query, 13);
+        if (const int id = query.value(0).toInt(); id != challanId) {
+            challanId = id;
+            index = challanIndex.value(id, -1);
+        }
+        // A row under no challan of the Statement does not reach the file.
+        if (index < 0)
+            continue;
+        row.srlNo = query.value(1).toInt();
+        row.pan = textOf(query, 2);
+        row.panRefGiven = query.value(3).toInt() > 0;
+        row.nameLength = query.value(4).toInt();
+        row.paid = StoredAmount::ofRow(query.value(5));
+        row.paymentDate = StoredDate::of(query.value(6));
+        row.taxDeposited = StoredAmount::ofRow(query.value(7));
+        row.deductionDate = StoredDate::of(query.value(8));
+        row.flag = textOf(query, 9);
+        row.tax = StoredAmount::ofRow(query.value(10));
+        row.surcharge = StoredAmount::ofRow(query.value(11));
+        row.cess = StoredAmount::ofRow(query.value(12));
+        row.total = StoredAmount::ofRow(query.value(13));
+        row.section = challans.at(index).section;
         row.deducteeCode = textOf(query, 14);
         row.rateStored = query.value(15);
         row.rate = row.rateStored.isNull() ? 0 : numbers::rateTenThousandths(row.rateStored);
         row.purchase = StoredAmount::ofRow(query.value(16));
-        each(row);
+        each(index, row);
     }
 }
 

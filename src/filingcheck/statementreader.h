@@ -51,6 +51,7 @@ struct ChallanValues
     /// As the file decides a book entry: any text, "0" and a blank too.
     bool transferVoucherGiven = false;
     StoredDate deposited;         ///< DtTrVoucher
+    QString section;              ///< none on 24Q
 };
 
 /// One employee or deductee row, its amounts to the paisa as the file carries them.
@@ -58,9 +59,9 @@ struct RowValues
 {
     int srlNo = 0;
     QString pan;
-    QString panRef;
-    QString name;
-    QString section;      ///< none on 24Q
+    bool panRefGiven = false;
+    int nameLength = 0; ///< in characters, without the blanks at its ends that the file drops
+    QString section;    ///< the challan's, which the file carries for its rows
     QString deducteeCode; ///< none on 24Q
     QString flag;         ///< NonDeductionflg
     StoredAmount paid;    ///< AmtOfPayment
@@ -78,8 +79,9 @@ struct RowValues
 
 /**
  * Reads a saved Statement of one form as the return file reads it: the challans of the
- * Statement and company in order of SlNo, and the rows of each challan in order of SrlNo, one
- * at a time, so that a Statement of any size is checked in little memory.
+ * Statement and company in order of SlNo, and the rows under them one at a time, so that a
+ * Statement of any size is checked in little memory. Of a row's name and PAN reference only what
+ * the rules need is read: the name's length and whether there is a reference.
  */
 class StatementReader
 {
@@ -89,8 +91,12 @@ public:
     /// None when the form has no Statement of that id.
     std::optional<StatementValues> statement(int basicInfoId) const;
     QList<ChallanValues> challans(const StatementValues &statement) const;
-    void rows(int basicInfoId, const ChallanValues &challan,
-              const std::function<void(const RowValues &)> &each) const;
+    /// Calls @p each with every row under one of @p challans and the challan's index in that
+    /// list. The rows come grouped by challan, in the order of the challans' ids and then of
+    /// the table's key, not of SlNo and SrlNo: what the caller tells in that order, it puts in
+    /// order itself.
+    void rows(int basicInfoId, const QList<ChallanValues> &challans,
+              const std::function<void(int, const RowValues &)> &each) const;
 
 private:
     const DataStore &m_store;

@@ -15,7 +15,7 @@ StoredAmount StoredAmount::ofChallan(const QVariant &stored)
 bool StoredAmount::isText() const
 {
     // The store's driver gives each value the type of what is stored, whatever the column.
-    return !stored.isNull() && stored.typeId() == QMetaType::QString;
+    return stored.typeId() == QMetaType::QString && !stored.isNull();
 }
 
 QString StoredAmount::shownText() const
@@ -30,7 +30,7 @@ StoredDate StoredDate::of(const QVariant &stored)
         return read;
     read.stored = stored.toString().trimmed();
     // As the file reads it: the first ten characters, yyyy-mm-dd.
-    read.date = QDate::fromString(read.stored.left(10), Qt::ISODate);
+    read.date = QDate::fromString(QStringView(read.stored).left(10), Qt::ISODate);
     return read;
 }
 

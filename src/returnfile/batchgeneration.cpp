@@ -103,8 +103,8 @@ std::optional<BatchGeneration::Options> BatchGeneration::parse(const QStringList
 QString BatchGeneration::usage()
 {
     return QStringLiteral(
-        "usage: kelvora-returns --store PATH --form FORM --quarter Q --company ID_OR_TAN "
-        "[--output FILE] [--strict] [--filed-on DATE] [--wait SECONDS]\n"
+        "usage: kelvora-returns --store PATH --form FORM --quarter Q --company ID_OR_TAN\n"
+        "       [--output FILE] [--strict] [--filed-on DATE] [--wait SECONDS]\n"
         "       kelvora-returns --store PATH --form FORM --quarter Q --all [--strict]\n"
         "       [--filed-on DATE] [--wait SECONDS]\n"
         "       kelvora-returns --check --store PATH --form FORM --quarter Q\n"

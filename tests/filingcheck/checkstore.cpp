@@ -24,12 +24,13 @@ void addStatement(const TestStore &data, const FormTraits &form)
                              "ExtOthers"})
         challan.append({zero, 0});
     TestStore::Row row = {
-        {form.annexureKey, 100},      {"BasicIfoID", basicInfoId}, {"CompID", 11},
-        {"AsstID", 1},                {"ChallanId", 10},           {"SrlNo", 1},
-        {"PAN", "ABCPE1234F"},        {"PANRef", ""},              {form.partyNameColumn, "ZUBIN MEHTA"},
-        {"AmtOfPayment", 10000},      {"PaymentDt", "2026-07-20"}, {"TaxAmount", 1000},
-        {"TaxDeductDt", "2026-07-20"}, {"NonDeductionflg", " "},   {"Tax", 1000},
-        {"Surcharge", 0},             {"Cess", 0},                 {"Total", 1000}};
+        {form.annexureKey, 100},       {"BasicIfoID", basicInfoId}, {"CompID", 11},
+        {"AsstID", 1},                 {"ChallanId", 10},           {"SrlNo", 1},
+        {"PAN", "ABCPE1234F"},         {"PANRef", ""},              {"AmtOfPayment", 10000},
+        {"PaymentDt", "2026-07-20"},   {"TaxAmount", 1000},         {"Tax", 1000},
+        {"TaxDeductDt", "2026-07-20"}, {"NonDeductionflg", " "},    {"Surcharge", 0},
+        {"Cess", 0},                   {"Total", 1000},
+        {form.partyNameColumn, "ZUBIN MEHTA"}};
     if (!form.salaryLayout) {
         const QString section = form.kind == FormKind::Form26Q   ? "94J"
                                 : form.kind == FormKind::Form27Q ? "195"

@@ -207,7 +207,7 @@ private slots:
                                                    << std::optional<qint64>(50000);
         QTest::newRow("94G from 1 October 2024") << "94G" << on(1, 10, 2024)
                                                  << std::optional<qint64>(20000);
-        QTest::newRow("94H from 1 October 2024") << "94h" << on(1, 10, 2024)
+        QTest::newRow("94H from 1 October 2024") << "94H" << on(1, 10, 2024)
                                                  << std::optional<qint64>(20000);
         QTest::newRow("94F until its omission") << "94F" << on(30, 9, 2024)
                                                 << std::optional<qint64>(200000);
@@ -275,6 +275,39 @@ private slots:
         QCOMPARE(fee.paid, Money());
         QCOMPARE(result.errors(), 0);
         QCOMPARE(result.warnings(), 2);
+    }
+
+    // The store gives a challan's rows in the order of their keys; the check tells them in the
+    // order of their serial numbers, as the file carries them.
+    void rowsInTheOrderOfTheirSerialNumbers()
+    {
+        const FormTraits &form = formTraits(FormKind::Form26Q);
+        const TestStore data(checkstore::cleanStore());
+        const DataStore &store = data.store();
+        store.exec("UPDATE TranDeducteeE26 SET SrlNo = 2, Cess = 'abc'");
+        store.exec("CREATE TEMP TABLE later AS SELECT * FROM TranDeducteeE26");
+        store.exec("UPDATE later SET DeducteeID = 101, SrlNo = 1, Cess = 0, PAN = 'AAAPZ0000Z'");
+        store.exec("INSERT INTO TranDeducteeE26 SELECT * FROM later");
+        store.exec("UPDATE TranBasicInfoE26 SET NoDeductee = 2");
+        store.exec("UPDATE TranChallanE26 SET AmountDeducted = 2000, Total = 2000, "
+                   "DtTrVoucher = '2026-07-19'");
+        const FilingCheck check(store, form);
+
+        // Both deducted on the day after the deposit: the first by its serial number is named.
+        const CheckResult early = check.run(checkstore::basicInfoId, checkstore::filedOn);
+        QStringList found;
+        for (const Finding &finding : early.findings)
+            found << finding.where() + u' ' + finding.column;
+        QCOMPARE(found, QStringList({"challan 1 row 1 PAN", "challan 1 row 2 Cess",
+                                     "challan 1 DtTrVoucher"}));
+        QVERIFY(early.findings.last().message.contains("of row 1;"));
+
+        store.exec("UPDATE TranChallanE26 SET DtTrVoucher = '2026-08-08'");
+        const CheckResult late = check.run(checkstore::basicInfoId, checkstore::filedOn);
+        const QString owed = "tax 1000.00 deducted on 20/07/2026, due by 07/08/2026, deposited "
+                             "on 08/08/2026: 2 months at 1.5% = 30.00";
+        QCOMPARE(late.interest.value(0).working.mid(0, 2),
+                 QStringList({"Row 1: " + owed, "Row 2: " + owed}));
     }
 
     void statementNotSaved()

@@ -371,6 +371,10 @@ private slots:
         const char *lowRate = "row.Rate=1; row.Tax=100; row.Total=100; row.TaxAmount=100";
         add("rate below the section's", "26Q", lowRate, {W + row + belowSection.arg("1.0000")});
         add("rate below the section's", "24Q 27Q 27EQ", lowRate, {});
+        // The file carries the challan's section for its rows.
+        add("rate below the challan's section and not the row's", "26Q",
+            qPrintable(QString::fromLatin1(lowRate) + "; row.Section=94C"),
+            {W + row + belowSection.arg("1.0000")});
         add("rate below the section's with a lower deduction", "26Q",
             qPrintable(QString::fromLatin1(lowRate) + "; row.NonDeductionflg=A"), {});
         add("no deduction with tax", "all", "row.NonDeductionflg=B",
