@@ -197,7 +197,8 @@ CheckResult FilingCheck::run(int basicInfoId, QDate filedOn) const
     for (const ChallanValues &challan : challans) {
         const bool bookEntry = context.governmentDeductor && challan.transferVoucherGiven;
         tallies.emplace_back(interest::ChallanInterestWork(
-            challan.slNo, challan.deposited.date, bookEntry, challan.interest.money));
+            challan.slNo, challan.deposited.date, bookEntry, challan.interest.money,
+            m_form.collectsTax));
     }
     int rows = 0;
     Money taxDeducted;

@@ -19,5 +19,8 @@ inline constexpr FormSet form27EQ = formSet(FormKind::Form27EQ);
 /// The forms whose rows are deductees or collectees, with a code, a section and a rate.
 inline constexpr FormSet deducteeForms = form26Q | form27Q | form27EQ;
 inline constexpr FormSet everyForm = form24Q | deducteeForms;
+/// The forms of tax deducted at source, whose interest is under section 201(1A); Form 27EQ's
+/// tax collected at source owes it under section 206C(7).
+inline constexpr FormSet deductionForms = form24Q | form26Q | form27Q;
 
 } // namespace filingcheck

@@ -12,13 +12,16 @@ namespace {
 struct DatedRates
 {
     QDate from;
+    bool collected; ///< tax collected at source
     MonthlyRates rates;
 };
 
-// 1% for late deduction and 1.5% for late deposit, from 1 July 2010; the first line also
+// Tax deducted, section 201(1A): 1% for late deduction and 1.5% for late deposit, from 1 July
+// 2010. Tax collected, section 206C(7): 1% a month for either. The first line of each also
 // stands for any earlier date.
 const DatedRates datedRates[] = {
-    {QDate(2010, 7, 1), {10, 15}},
+    {QDate(2010, 7, 1), false, {10, 15}},
+    {QDate(2010, 7, 1), true, {10, 10}},
 };
 
 /// "1%" or "1.5%" of tenths of a percent.
@@ -70,18 +73,19 @@ int monthsOrPart(QDate from, QDate to)
     return (to.year() - from.year()) * 12 + to.month() - from.month() + 1;
 }
 
-MonthlyRates ratesOn(QDate start)
+MonthlyRates ratesOn(QDate start, bool collected)
 {
-    const DatedRates *found = &datedRates[0];
+    const DatedRates *found = nullptr;
     for (const DatedRates &dated : datedRates) {
-        if (dated.from <= start)
+        if (dated.collected == collected && (!found || dated.from <= start))
             found = &dated;
     }
     return found->rates;
 }
 
-ChallanInterestWork::ChallanInterestWork(int slNo, QDate deposited, bool bookEntry, Money paid)
-    : m_deposited(deposited), m_bookEntry(bookEntry)
+ChallanInterestWork::ChallanInterestWork(int slNo, QDate deposited, bool bookEntry, Money paid,
+                                         bool collected)
+    : m_deposited(deposited), m_bookEntry(bookEntry), m_collected(collected)
 {
     m_result.challan = slNo;
     m_result.paid = paid;
@@ -91,7 +95,7 @@ void ChallanInterestWork::addRow(int srlNo, Money taxDeducted, QDate paid, QDate
                                  Money deposited)
 {
     if (const int months = monthsOrPart(paid, deducted); months > 0 && taxDeducted > Money()) {
-        const int rate = ratesOn(paid).lateDeduction;
+        const int rate = ratesOn(paid, m_collected).lateDeduction;
         const Exact owed = Exact(taxDeducted.paise()) * rate * months;
         m_lateDeduction += owed;
         const QString line = QStringLiteral("Row %1: tax %2 on a payment or credit of %3, "
@@ -109,7 +113,7 @@ void ChallanInterestWork::addRow(int srlNo, Money taxDeducted, QDate paid, QDate
     if (m_deposited <= due)
         return;
     const int months = monthsOrPart(deducted, m_deposited);
-    const int rate = ratesOn(deducted).lateDeposit;
+    const int rate = ratesOn(deducted, m_collected).lateDeposit;
     const Exact owed = Exact(deposited.paise()) * rate * months;
     m_lateDeposit += owed;
     const QString line =

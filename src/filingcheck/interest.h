@@ -4,7 +4,8 @@
 
 #include <QDate>
 
-/// Interest under section 201(1A): calendar months, a part of a month counting whole.
+/// Interest on tax deducted (section 201(1A)) or collected (section 206C(7)) late or deposited
+/// late: calendar months, a part of a month counting whole.
 namespace filingcheck::interest {
 
 /// The calendar months from one date to a later one, the first and the last counting whole:
@@ -18,14 +19,16 @@ struct MonthlyRates
     int lateDeposit;   ///< deduction to deposit, past the due date
 };
 
-/// The rates in force on the day the default starts.
-MonthlyRates ratesOn(QDate start);
+/// The rates in force on the day the default starts, for tax deducted or for tax collected.
+MonthlyRates ratesOn(QDate start, bool collected);
 
 /// The interest on one challan's rows, added up as the rows are read.
 class ChallanInterestWork
 {
 public:
-    ChallanInterestWork(int slNo, QDate deposited, bool bookEntry, Money paid);
+    /// collected: tax collected at source (Form 27EQ), at the rates of section 206C(7).
+    ChallanInterestWork(int slNo, QDate deposited, bool bookEntry, Money paid,
+                        bool collected = false);
 
     /// One row: the tax deducted on a payment or credit, and the tax it deposited. Dates that
     /// are not dates owe nothing here; the rules tell of them. Rows may come in any order.
@@ -44,6 +47,7 @@ private:
     QList<std::pair<int, QString>> m_rowWorking; ///< by SrlNo, put in its order at the end
     QDate m_deposited;
     bool m_bookEntry;
+    bool m_collected;
     Exact m_lateDeduction = 0;
     Exact m_lateDeposit = 0;
 };

@@ -91,8 +91,12 @@ const Rule<ChallanFacts> challanBook[] = {
      checks::challanAmountText},
     {"CHALLAN-AMOUNT-NEGATIVE", E, everyForm, 0, 0, nullptr, amountNegativeMessage,
      checks::challanAmountNegative},
-    {"INTEREST-UNPAID", W, everyForm, 0, 0, "Interest",
+    {"INTEREST-UNPAID", W, deductionForms, 0, 0, "Interest",
      "Interest under section 201(1A) of %1 is due on this challan and its interest holds %2; "
+     "the interest is paid before filing.",
+     checks::interestUnpaid},
+    {"INTEREST-UNPAID", W, form27EQ, 0, 0, "Interest",
+     "Interest under section 206C(7) of %1 is due on this challan and its interest holds %2; "
      "the interest is paid before filing.",
      checks::interestUnpaid},
 };

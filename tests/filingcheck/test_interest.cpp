@@ -196,6 +196,19 @@ private slots:
         QCOMPARE(result.due, Money::fromPaise(due));
     }
 
+    // Tax collected at source owes 1% a month under section 206C(7), for late collection and
+    // late deposit alike, where tax deducted owes 1% and 1.5% under section 201(1A).
+    void collectedTaxInterest()
+    {
+        interest::ChallanInterestWork work(2, on(8, 6, 2026), false, Money(), true);
+        work.addRow(1, Money::fromRupees(10000), on(30, 4, 2026), on(31, 5, 2026),
+                    Money::fromRupees(10000));
+        const ChallanInterest result = work.result();
+        QCOMPARE(result.lateDeduction, Money::fromRupees(200));
+        QCOMPARE(result.lateDeposit, Money::fromRupees(200));
+        QCOMPARE(result.due, Money::fromRupees(400));
+    }
+
     void sectionFloor_data()
     {
         testsuite::columns<QString, QDate, std::optional<qint64>>("section", "paid", "floor");
@@ -250,22 +263,26 @@ private slots:
 
         const CheckResult result =
             FilingCheck(data.store(), traits).run(checkstore::basicInfoId, on(17, 11, 2026));
+        // Tax collected at source owes 1% a month (section 206C(7)), tax deducted 1.5%.
+        const bool collection = traits.kind == FormKind::Form27EQ;
+        const QString rate = collection ? QStringLiteral("1%") : QStringLiteral("1.5%");
+        const QString amount = collection ? QStringLiteral("200.00") : QStringLiteral("300.00");
         QCOMPARE(result.interest.size(), 1);
         const ChallanInterest &interest = result.interest.first();
         QCOMPARE(interest.challan, 1);
         QCOMPARE(interest.lateDeduction, Money());
-        QCOMPARE(interest.lateDeposit, Money::fromRupees(300));
-        QCOMPARE(interest.due, Money::fromRupees(300));
+        QCOMPARE(interest.lateDeposit, Money::fromText(amount));
+        QCOMPARE(interest.due, Money::fromText(amount));
         QCOMPARE(interest.paid, Money());
         QCOMPARE(interest.working,
                  QStringList({"Row 1: tax 10000.00 deducted on 31/05/2026, due by 07/06/2026, "
-                              "deposited on 08/06/2026: 2 months at 1.5% = 300.00",
+                              "deposited on 08/06/2026: 2 months at " + rate + " = " + amount,
                               "Months are calendar months, a part of a month counting whole. "
-                              "Late deduction and late deposit make 300.00, rounded once to "
-                              "the nearest rupee (half a rupee to the even rupee, as the return "
-                              "file rounds the challan's interest): 300.00"}));
+                              "Late deduction and late deposit make " + amount
+                                  + ", rounded once to the nearest rupee (half a rupee to the "
+                                    "even rupee, as the return file rounds the challan's "
+                                    "interest): " + amount}));
 
-        const bool collection = traits.kind == FormKind::Form27EQ;
         const LateFee &fee = result.lateFee;
         QCOMPARE(fee.dueDate, collection ? on(15, 7, 2026) : on(31, 7, 2026));
         QCOMPARE(fee.daysLate, collection ? 125 : 109);

@@ -25,6 +25,8 @@ const QString lateFee = QStringLiteral(
 const QString interestUnpaid = QStringLiteral(
     "Interest\tInterest under section 201(1A) of %1 is due on this challan and its interest "
     "holds 0.00; the interest is paid before filing.");
+// Tax collected at source owes its interest under section 206C(7), at 1% a month throughout.
+const QString collectedUnpaid = QString(interestUnpaid).replace("201(1A)", "206C(7)");
 const QString inFuture = QStringLiteral(
     "%1 %2 is after the filing date %3; a date in a return is never in the future.");
 const QString outsideQuarter = QStringLiteral(
@@ -151,9 +153,12 @@ private slots:
             "challan.DtTrVoucher=2026-07-20",
             {});
         // A book entry is due on the day of deduction: July and August at 1.5% of 1000.00.
-        add("book entry of a government deductor, after the day of deduction", "all",
+        add("book entry of a government deductor, after the day of deduction", "24Q 26Q 27Q",
             "company.DStatus=S; challan.TrVoucherNo=; challan.TransferVoucherNo=1234567",
             {W + challan + interestUnpaid.arg("30.00")});
+        add("book entry of a government collector, after the day of collection", "27EQ",
+            "company.DStatus=S; challan.TrVoucherNo=; challan.TransferVoucherNo=1234567",
+            {W + challan + collectedUnpaid.arg("20.00")});
         add("transfer voucher of a company", "all", "challan.TransferVoucherNo=0",
             {E + challan + "TransferVoucherNo\tThe transfer voucher number is \"0\", which "
                            "makes the challan a book entry; only a Central or State Government "
@@ -218,8 +223,10 @@ private slots:
                            "return file would carry 0.00."});
         add("challan amount negative", "all", "challan.Others=-5; challan.Total=995",
             {E + challan + "Others\tOthers is -5.00; no amount in a return is negative."});
-        add("deposited a day late", "all", "challan.DtTrVoucher=2026-08-08",
+        add("deposited a day late", "24Q 26Q 27Q", "challan.DtTrVoucher=2026-08-08",
             {W + challan + interestUnpaid.arg("30.00")});
+        add("deposited a day late", "27EQ", "challan.DtTrVoucher=2026-08-08",
+            {W + challan + collectedUnpaid.arg("20.00")});
         add("interest negative while none is due", "all",
             "challan.Interest=-5; challan.Total=995",
             {E + challan + "Interest\tInterest is -5.00; no amount in a return is negative."});
@@ -322,10 +329,14 @@ private slots:
             {E + row + "PaymentDt\tThe date of payment or credit is empty; give the date on "
                        "which the amount was paid or credited."});
         // Deducted a day after the payment across a month end: two months at 1% of 1000.00.
-        add("paid before the quarter, deducted a day later", "all",
+        add("paid before the quarter, deducted a day later", "24Q 26Q 27Q",
             "row.PaymentDt=2026-06-30; row.TaxDeductDt=2026-07-01",
             {E + row + outsideQuarter.arg("30/06/2026"),
              W + challan + interestUnpaid.arg("20.00")});
+        add("paid before the quarter, deducted a day later", "27EQ",
+            "row.PaymentDt=2026-06-30; row.TaxDeductDt=2026-07-01",
+            {E + row + outsideQuarter.arg("30/06/2026"),
+             W + challan + collectedUnpaid.arg("20.00")});
         add("paid on the first day of the quarter", "all",
             "row.PaymentDt=2026-07-01; row.TaxDeductDt=2026-07-01", {});
         add("paid on the last day of the quarter", "all",
@@ -345,13 +356,20 @@ private slots:
         add("no tax without a date of deduction", "all",
             qPrintable(noTax + "row.TaxDeductDt=NULL"), {});
         // Deducted in June and deposited in August: June to August at 1.5% of 1000.00.
-        add("deducted before the quarter", "all",
+        add("deducted before the quarter", "24Q 26Q 27Q",
             "row.PaymentDt=2026-06-30; row.TaxDeductDt=2026-06-30",
             {E + row + outsideQuarter.arg("30/06/2026"),
              E + row + "TaxDeductDt\tThe date of deduction 30/06/2026 is before the quarter "
                        "starts on 01/07/2026; tax reported in a quarter is deducted on or after "
                        "its first day.",
              W + challan + interestUnpaid.arg("45.00")});
+        add("deducted before the quarter", "27EQ",
+            "row.PaymentDt=2026-06-30; row.TaxDeductDt=2026-06-30",
+            {E + row + outsideQuarter.arg("30/06/2026"),
+             E + row + "TaxDeductDt\tThe date of deduction 30/06/2026 is before the quarter "
+                       "starts on 01/07/2026; tax reported in a quarter is deducted on or after "
+                       "its first day.",
+             W + challan + collectedUnpaid.arg("30.00")});
         add("rate with no tax", "26Q 27Q 27EQ",
             "row.Tax=0; row.Total=0; row.TaxAmount=0; row.TaxDeductDt=NULL; "
             "row.NonDeductionflg=B",

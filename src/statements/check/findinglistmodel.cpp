@@ -62,11 +62,12 @@ DueListModel::DueListModel(QObject *parent) : RowListModel(dueHeaders, parent)
 {
 }
 
-void DueListModel::setResult(const filingcheck::CheckResult &result)
+void DueListModel::setResult(const filingcheck::CheckResult &result,
+                             const QString &interestName)
 {
     QList<DueEntry> entries;
     for (const filingcheck::ChallanInterest &interest : result.interest) {
-        entries.append({QStringLiteral("Interest 201(1A)"),
+        entries.append({interestName,
                         QStringLiteral("challan %1").arg(interest.challan),
                         interest.due.toText(), interest.paid.toText(),
                         interest.working.join(u'\n')});

@@ -37,7 +37,7 @@ protected:
 /// An amount that the Statement owes beyond its tax: interest on a challan, or the late fee.
 struct DueEntry
 {
-    QString what;     ///< "Interest 201(1A)" or "Late fee 234E"
+    QString what;     ///< "Interest 201(1A)" (206C(7) for tax collected) or "Late fee 234E"
     QString where;    ///< "challan N" or "statement"
     QString due;
     QString paid;
@@ -52,7 +52,8 @@ public:
 
     explicit DueListModel(QObject *parent = nullptr);
 
-    void setResult(const filingcheck::CheckResult &result);
+    /// interestName: "Interest 201(1A)" for tax deducted, "Interest 206C(7)" for tax collected.
+    void setResult(const filingcheck::CheckResult &result, const QString &interestName);
 
 protected:
     QString cell(const DueEntry &row, int column) const override;

@@ -146,7 +146,8 @@ bool FrmFilingCheck::run()
     // Rows are measured for their wrapped messages only while they are few enough to be quick.
     if (m_findings->rowCount() <= measuredFindings)
         m_findingList->resizeRowsToContents();
-    m_dues->setResult(m_result);
+    m_dues->setResult(m_result, m_form.collectsTax ? QStringLiteral("Interest 206C(7)")
+                                                   : QStringLiteral("Interest 201(1A)"));
     m_summary->setText(summaryOf(m_result));
     m_dueList->setCurrentIndex(m_dues->index(0, 0));
     showWorking(0);
