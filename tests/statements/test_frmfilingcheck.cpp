@@ -1,5 +1,7 @@
 #include "screenchild.h"
 #include "statementfixture.h"
+#include "reports/report.h"
+#include "reports/reportpreview.h"
 #include "statements/check/frmfilingcheck.h"
 #include "statements/frmstatement.h"
 #include "statements/generationframe.h"
@@ -82,6 +84,7 @@ class TestFrmFilingCheck : public QObject
 private slots:
     void findingsLeadToTheirFields_data();
     void findingsLeadToTheirFields();
+    void listPrintsAsShown();
     void generationAsksOverErrors_data();
     void generationAsksOverErrors();
 };
@@ -116,6 +119,26 @@ void TestFrmFilingCheck::findingsLeadToTheirFields()
     QFETCH(QString, control);
     QCOMPARE(QApplication::focusWidget(), child(f.screen, control));
     QTEST(child<QLineEdit>(f.screen, control)->text(), "shown");
+    check->close();
+}
+
+// Print shows the findings as the list has them, labels included, and the dues with their
+// working.
+void TestFrmFilingCheck::listPrintsAsShown()
+{
+    RejectedStatement f;
+    FrmFilingCheck *check = f.openCheck();
+    QVERIFY(check);
+    child<QPushButton>(*check, "cmdPrint")->click();
+    ReportPreview *preview = nullptr;
+    for (QWidget *window : QApplication::topLevelWidgets())
+        preview = preview ? preview : qobject_cast<ReportPreview *>(window);
+    QVERIFY(preview);
+    const QString text = preview->report().text();
+    QVERIFY2(text.contains("Error\t1\t1\tPAN  [416]\tThe PAN AAAPZ0000Z has 0000"),
+             qPrintable(text));
+    QVERIFY2(text.contains("Late fee 234E, statement"), qPrintable(text));
+    preview->close();
     check->close();
 }
 
