@@ -1,6 +1,7 @@
 #include "filingcheck/filingcheck.h"
 
 #include "core/datastore.h"
+#include "core/deductorstatus.h"
 #include "core/exactamount.h"
 #include "core/fieldrules.h"
 #include "core/formtraits.h"
@@ -80,12 +81,6 @@ int financialYearOf(const StatementValues &statement)
     return statement.assessmentYear;
 }
 
-/// Central and State Government deductors may pay by book entry, with a transfer voucher.
-bool paysByBookEntry(const QString &deductorType)
-{
-    return deductorType == u"A" || deductorType == u"S";
-}
-
 /// A Statement whose challans deposit nothing, in whole rupees as the file's header sums them.
 bool depositsNothing(const QList<ChallanValues> &challans)
 {
@@ -111,7 +106,7 @@ CheckContext contextOf(const FormTraits &form, const StatementValues &statement,
         context.quarterTo = fieldrules::sessionDate(period.toDate);
     }
     context.filedOn = filedOn;
-    context.governmentDeductor = paysByBookEntry(statement.deductorType);
+    context.governmentDeductor = deductorstatus::paysByBookEntry(statement.deductorType);
     context.nilStatement = depositsNothing(challans);
     return context;
 }

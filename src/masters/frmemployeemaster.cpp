@@ -9,23 +9,12 @@
 #include <QLabel>
 #include <QLineEdit>
 
-namespace {
-
-DateBox *dateBox(const QString &name, QWidget *parent)
-{
-    auto *date = new DateBox(name, parent);
-    date->setDate(QDate::currentDate()); // until Add New sets the year's dates
-    return date;
-}
-
-} // namespace
-
 FrmEmployeeMaster::FrmEmployeeMaster(Session &session, MessageBoxes &boxes, QWidget *parent)
     : PartyMasterForm(m_employees, boxes, parent),
       m_employees(session, boxes),
       m_designation(new QLineEdit(this)),
-      m_fromDate(dateBox(EmployeeMaster::fromDateField, this)),
-      m_toDate(dateBox(EmployeeMaster::toDateField, this)),
+      m_fromDate(new DateBox(EmployeeMaster::fromDateField, this)),
+      m_toDate(new DateBox(EmployeeMaster::toDateField, this)),
       m_category(new QComboBox(this))
 {
     setObjectName(QStringLiteral("frmEmployeeMaster"));

@@ -1,5 +1,6 @@
 #include "statements/challanrules.h"
 
+#include "core/deductorstatus.h"
 #include "core/money.h"
 #include "core/numbers.h"
 #include "statements/challanentry.h"
@@ -40,8 +41,7 @@ QString total(const ChallanEntry &entry)
 
 NumberBoxes applyNumberRule(ChallanEntry &entry, const QString &deductorStatus)
 {
-    const QString status = deductorStatus.trimmed();
-    if (status != u"S" && status != u"A") {
+    if (!deductorstatus::paysByBookEntry(deductorStatus)) {
         entry.voucherNo.clear();
         return {true, false};
     }

@@ -1,5 +1,4 @@
 #include "core/datebox.h"
-#include "core/fieldchecks.h"
 #include "core/fieldpath.h"
 #include "core/keyfilters.h"
 #include "support/scriptedmessageboxes.h"
@@ -7,7 +6,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -170,34 +168,6 @@ private slots:
         QVERIFY(!QApplication::activePopupWidget());
         QCOMPARE(m_date->text(), "01/07/2026");
         QCOMPARE(QApplication::focusWidget(), m_date);
-    }
-
-    void blankAndMaxDigits()
-    {
-        auto *combo = new QComboBox;
-        combo->setEditable(true);
-        m_window->layout()->addWidget(combo);
-        combo->show();
-        m_edit->setText(QStringLiteral("  "));
-        QVERIFY(fieldchecks::isBlank(m_boxes, m_edit, QStringLiteral("Enter Designation")));
-        QCOMPARE(m_window->focusWidget(), m_edit);
-        QVERIFY(fieldchecks::isBlank(m_boxes, combo));
-        QCOMPARE(m_window->focusWidget(), combo);
-        combo->setEditText(QStringLiteral("RAVI"));
-        QVERIFY(!fieldchecks::isBlank(m_boxes, combo));
-        // The digit check only warns: its result lets the caller go on.
-        m_edit->setText(QStringLiteral("123456789012345.00"));
-        QVERIFY(fieldchecks::checkMaxDigits(m_boxes, m_edit, 14));
-        QCOMPARE(m_window->focusWidget(), m_edit);
-        // A hidden field still gets its box but cannot take the focus.
-        combo->setFocus();
-        m_edit->hide();
-        m_edit->clear();
-        QVERIFY(fieldchecks::isBlank(m_boxes, m_edit));
-        QCOMPARE(m_window->focusWidget(), combo);
-        QCOMPARE(m_boxes.texts(), QStringList({"Enter Designation", "Cannot take blank value",
-                                               "Maximum Len allowed = 14",
-                                               "Cannot take blank value"}));
     }
 
 private:

@@ -1,5 +1,6 @@
 #include "screenchild.h"
 #include "statementfixture.h"
+#include "core/fieldpath.h"
 #include "reports/report.h"
 #include "reports/reportpreview.h"
 #include "statements/check/frmfilingcheck.h"
@@ -85,6 +86,8 @@ private slots:
     void findingsLeadToTheirFields_data();
     void findingsLeadToTheirFields();
     void listPrintsAsShown();
+    void filingDateTyped_data();
+    void filingDateTyped();
     void generationAsksOverErrors_data();
     void generationAsksOverErrors();
 };
@@ -139,6 +142,31 @@ void TestFrmFilingCheck::listPrintsAsShown()
              qPrintable(text));
     QVERIFY2(text.contains("Late fee 234E, statement"), qPrintable(text));
     preview->close();
+    check->close();
+}
+
+void TestFrmFilingCheck::filingDateTyped_data()
+{
+    testsuite::columns<QString, int, QString>("typed", "daysLate", "fee");
+    QTest::newRow("on the due date") << "31/07/2026" << 0 << "0.00";
+    // The Statement deducted 100.00: a day's fee of 200.00 is already past it.
+    QTest::newRow("a day late, up to the tax") << "1/8/2026" << 1 << "100.00";
+    QTest::newRow("long after") << "01122026" << 123 << "100.00";
+}
+
+// The filing date typed over the box and checked again gives the late fee as of that day.
+void TestFrmFilingCheck::filingDateTyped()
+{
+    QFETCH(QString, typed);
+    RejectedStatement f;
+    FrmFilingCheck *check = f.openCheck();
+    QVERIFY(check);
+    auto *date = child<QLineEdit>(*check, "dtpFiledOn");
+    FieldPath::enter(date);
+    QTest::keyClicks(date, typed);
+    child<QPushButton>(*check, "cmdRecheck")->click();
+    QTEST(check->result().lateFee.daysLate, "daysLate");
+    QTEST(check->result().lateFee.due.toText(), "fee");
     check->close();
 }
 
