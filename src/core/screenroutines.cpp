@@ -3,9 +3,11 @@
 #include "core/areawindow.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace screenroutines {
@@ -66,6 +68,15 @@ void closeScreen(QWidget *screen)
         frame->close();
     else
         screen->close();
+}
+
+QString labelOf(const QWidget *field)
+{
+    for (const QLabel *label : field->window()->findChildren<QLabel *>()) {
+        if (label->buddy() == field)
+            return label->text().remove(QRegularExpression(QStringLiteral("&(?!&)"))).trimmed();
+    }
+    return {};
 }
 
 bool isEnterKey(const QEvent *event)

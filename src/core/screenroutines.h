@@ -36,6 +36,10 @@ QMdiSubWindow *showInArea(QMdiArea *area, QWidget *screen, QMdiSubWindow *opener
 /// when it is closed.
 void openBeside(QWidget *beside, QWidget *screen);
 
+/// The text of the label whose buddy is @p field, as the screen shows it (a mnemonic's "&"
+/// gone); empty when the field has no label.
+QString labelOf(const QWidget *field);
+
 /// A key press of Enter, on the main keyboard or the keypad: entry moves along the fields on it.
 bool isEnterKey(const QEvent *event);
 

@@ -12,27 +12,22 @@
 #include "statements/generationframe.h"
 #include "statements/salarypanel.h"
 #include "statements/challanpanel.h"
+#include "statements/panelbuttons.h"
 #include "statements/check/findingfields.h"
-#include "statements/check/frmfilingcheck.h"
+#include "statements/check/statementcheck.h"
 
 #include <QCloseEvent>
-#include <QFrame>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace {
 
 using Panel = StatementSheet::Panel;
-
-const QString chosenColour = QStringLiteral("background-color: #CFEBF8;");
-const QString otherColour = QStringLiteral("background-color: #D7E0E1;");
 
 int indexOf(Panel panel)
 {
@@ -54,6 +49,8 @@ FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxe
       m_annexure(new AnnexurePanel(m_sheet, m_annexureRows, boxes, this)),
       m_salary(new SalaryPanel(m_sheet, boxes, this)),
       m_generation(new GenerationFrame(m_sheet, boxes, this)),
+      m_buttons(new PanelButtons(form, this)),
+      m_check(new StatementCheck(this, m_sheet, boxes)),
       m_formCaption(new QLabel(QStringLiteral("     Form ") + form.formType, this)),
       m_companyName(new QLabel(this)),
       m_headCaption(new QLabel(this))
@@ -77,47 +74,23 @@ FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxe
     buildButtons();
     layOut();
 
-    connect(m_basicInfo, &BasicInfoPanel::challansAsked, this, [this] {
-        if (m_panelButtons[indexOf(Panel::Challan)]->isEnabled())
-            m_panelButtons[indexOf(Panel::Challan)]->click();
-    });
+    connect(m_buttons, &PanelButtons::panelChosen, this, &FrmStatement::showPanel);
+    connect(m_buttons, &PanelButtons::makeFileAsked, this, &FrmStatement::makeFile);
+    connect(m_buttons, &PanelButtons::checkAsked, this, &FrmStatement::openCheck);
+    connect(m_check, &StatementCheck::findingChosen, this, &FrmStatement::showFinding);
+    connect(m_basicInfo, &BasicInfoPanel::challansAsked, this,
+            [this] { m_buttons->press(Panel::Challan); });
     connect(m_generation, &GenerationFrame::hideAsked, this, [this] { showGenerationFrame(false); });
     connect(m_generation, &GenerationFrame::coverFormAsked, this, &FrmStatement::coverForm);
     m_generation->setListedRows([this] { return m_annexureRows.rows().rowCount(); });
     connect(m_annexure, &AnnexurePanel::challansMade, this, [this] { m_challans.reload(); });
-    connect(m_challan, &ChallanPanel::annexureAsked, this, [this] {
-        if (m_panelButtons[indexOf(Panel::Annexure)]->isEnabled())
-            m_panelButtons[indexOf(Panel::Annexure)]->click();
-    });
+    connect(m_challan, &ChallanPanel::annexureAsked, this,
+            [this] { m_buttons->press(Panel::Annexure); });
 }
 
 void FrmStatement::buildButtons()
 {
     const FormTraits &form = m_sheet.form();
-    const QString party = form.hasSalaryDetail ? QStringLiteral("Em&ployee Detail")
-                                               : QStringLiteral("D&eductee Detail");
-    const QStringList names = {"cmdBasicInfo", "cmdChallan", "cmdDeducteeDetails",
-                               "cmdEmplyeeDetails"};
-    // Each Alt+letter of the screen does one thing: Salary Detail leaves A to Add.
-    const QStringList captions = {"&Basic Information", "C&hallan", party, "Sa&lary Detail"};
-    for (int index = 0; index < 4; ++index) {
-        m_panelButtons[index] = screenroutines::commandButton(captions.at(index),
-                                                              names.at(index), this);
-        const auto panel = static_cast<Panel>(index + 1);
-        connect(m_panelButtons[index], &QPushButton::clicked, this,
-                [this, panel] { showPanel(panel); });
-    }
-    m_panelButtons[indexOf(Panel::Salary)]->setVisible(form.hasSalaryDetail);
-    m_makeFile = screenroutines::commandButton(QStringLiteral("&Generate File"),
-                                               QStringLiteral("CmdMakeFile"), this);
-    connect(m_makeFile, &QPushButton::clicked, this, &FrmStatement::makeFile);
-    m_check = screenroutines::commandButton(QStringLiteral("Chec&k"), QStringLiteral("cmdCheck"),
-                                            this);
-    m_check->setToolTip(QStringLiteral(
-        "Checks the saved Statement against the authority's validation rules, with the "
-        "interest and late fee due before filing."));
-    connect(m_check, &QPushButton::clicked, this, &FrmStatement::openCheck);
-
     const QString master = form.hasSalaryDetail ? QStringLiteral("&Employee Master")
                                                 : QStringLiteral("Deductee &Master");
     const QStringList commands = {"&Add", "&Save Form", master, "&Delete", "Cl&ose"};
@@ -135,16 +108,8 @@ void FrmStatement::layOut()
     head->addSpacing(24);
     head->addWidget(m_companyName, 1);
 
-    auto *panelButtons = new QVBoxLayout;
-    for (QPushButton *button : m_panelButtons)
-        panelButtons->addWidget(button);
-    panelButtons->addSpacing(16);
-    panelButtons->addWidget(m_makeFile);
-    panelButtons->addWidget(m_check);
-    panelButtons->addStretch();
-
     auto *middle = new QHBoxLayout;
-    middle->addLayout(panelButtons);
+    middle->addWidget(m_buttons);
     middle->addWidget(m_panels, 1);
 
     auto *commands = new QHBoxLayout;
@@ -244,12 +209,7 @@ void FrmStatement::showAll()
     const BasicInfo &info = m_sheet.info();
     m_companyName->setText(info.compName + QStringLiteral(" [") + info.asstYear
                            + QStringLiteral("]"));
-    for (int index = 0; index < 4; ++index) {
-        const auto panel = static_cast<Panel>(index + 1);
-        m_panelButtons[index]->setEnabled(m_sheet.panelEnabled(panel));
-        m_panelButtons[index]->setStyleSheet(m_sheet.panel() == panel ? chosenColour
-                                                                      : otherColour);
-    }
+    m_buttons->showPanels(m_sheet);
     m_cmd[3]->setEnabled(m_sheet.deleteEnabled());
     m_panels->setCurrentIndex(indexOf(m_sheet.panel()));
     const QString form = m_sheet.form().formType;
@@ -340,35 +300,7 @@ void FrmStatement::openCheck()
     }
     if (!saveForFile())
         return;
-    if (!m_checkScreen) {
-        const BasicInfo &info = m_sheet.info();
-        const QStringList heading = {info.compName, QStringLiteral("TAN ") + info.tan,
-                                     QStringLiteral("Form ") + m_sheet.form().formType,
-                                     m_sheet.session().curQuarter};
-        m_checkScreen = new FrmFilingCheck(
-            m_sheet.session().store, m_sheet.form(), m_sheet.basicInfoId(), heading,
-            [this](const filingcheck::Finding &finding) { return fieldLabel(finding); },
-            m_boxes);
-        connect(m_checkScreen, &FrmFilingCheck::findingChosen, this,
-                &FrmStatement::showFinding);
-        screenroutines::openBeside(this, m_checkScreen);
-    } else if (auto *frame = qobject_cast<QMdiSubWindow *>(m_checkScreen->parentWidget())) {
-        frame->mdiArea()->setActiveSubWindow(frame);
-    }
-    m_checkScreen->run();
-}
-
-QString FrmStatement::fieldLabel(const filingcheck::Finding &finding) const
-{
-    const QString control = findingfields::controlOf(m_sheet.form(), finding);
-    const QWidget *field = control.isEmpty() ? nullptr : findChild<QWidget *>(control);
-    for (const QLabel *label : findChildren<QLabel *>()) {
-        if (field && label->buddy() == field)
-            return label->text().remove(QRegularExpression(QStringLiteral("&(?!&)")))
-                .replace(QStringLiteral("&&"), QStringLiteral("&"))
-                .trimmed();
-    }
-    return finding.column;
+    m_check->show();
 }
 
 void FrmStatement::showFinding(const filingcheck::Finding &finding)

@@ -4,13 +4,13 @@
 #include "statements/challansheet.h"
 #include "statements/statementsheet.h"
 
-#include <QPointer>
 #include <QWidget>
 
 class AnnexurePanel;
 class BasicInfoPanel;
-class FrmFilingCheck;
 class GenerationFrame;
+class PanelButtons;
+class StatementCheck;
 class SalaryPanel;
 class ChallanPanel;
 class MessageBoxes;
@@ -62,7 +62,6 @@ private:
     /// Saves what stands on the screen, as generation does; false when the save refused.
     bool saveForFile();
     void openCheck();
-    QString fieldLabel(const filingcheck::Finding &finding) const;
     void showGenerationFrame(bool shown);
 
     StatementSheet m_sheet;
@@ -75,13 +74,11 @@ private:
     AnnexurePanel *m_annexure;
     SalaryPanel *m_salary;
     GenerationFrame *m_generation;
+    PanelButtons *m_buttons;
+    StatementCheck *m_check;
     QLabel *m_formCaption;
     QLabel *m_companyName;
     QLabel *m_headCaption;
-    QPushButton *m_panelButtons[4] = {};
-    QPushButton *m_makeFile = nullptr;
-    QPushButton *m_check = nullptr;
-    QPointer<FrmFilingCheck> m_checkScreen;
     QPushButton *m_cmd[5] = {};
     bool m_opened = false;
     bool m_noPrompt = false; // a finished delete closes without the question
