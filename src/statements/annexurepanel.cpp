@@ -9,6 +9,7 @@
 #include "core/screenroutines.h"
 #include "core/session.h"
 #include "core/storeerror.h"
+#include "statements/annexuresavecheck.h"
 #include "statements/annexuresheet.h"
 #include "statements/rowlistview.h"
 #include "statements/statementsheet.h"
@@ -285,7 +286,7 @@ void AnnexurePanel::layOut()
         actions->addWidget(m_transfer);
     actions->addWidget(m_save);
 
-    auto *heading = new QLabel(AnnexureSheet::chooseChallanText, this);
+    auto *heading = new QLabel(annexuresavecheck::chooseChallanText, this);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(heading);

@@ -133,6 +133,19 @@ QVariant AnnexureRecords::amount(const QString &column, const QString &text) con
     return number;
 }
 
+AnnexureListRow AnnexureRecords::controlAmounts(const AnnexureEntry &row)
+{
+    return {row.deposited, row.tax, row.surcharge, row.cess, row.total};
+}
+
+void AnnexureRecords::writeControlTotals(const ChallanRowsKey &key,
+                                         const QList<AnnexureListRow> &amounts) const
+{
+    calculateChallanControlTotal(m_store, m_form,
+                                 {key.challanId, key.statement.basicInfoId, key.statement.compId},
+                                 amounts);
+}
+
 AnnexureEntry AnnexureRecords::asListed(const AnnexureEntry &entry) const
 {
     AnnexureEntry listed = entry;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "returnfile/controltotals.h"
 #include "statements/annexureentry.h"
 #include "statements/challanrecords.h"
 
@@ -37,6 +38,13 @@ public:
     void update(const AnnexureEntry &entry, const ChallanEntry &challan,
                 const ChallanRowsKey &key) const;
     void remove(int rowId, const ChallanRowsKey &key) const;
+
+    /// A row's five amounts that its challan's control totals sum.
+    static AnnexureListRow controlAmounts(const AnnexureEntry &row);
+    /// Writes the challan's control totals from its rows' amounts; throws StoreError, or
+    /// std::range_error for a sum past the totals' range.
+    void writeControlTotals(const ChallanRowsKey &key,
+                            const QList<AnnexureListRow> &amounts) const;
 
     /// A saved row as load() would read it back: amounts as the store keeps them (whole rupees
     /// in whole-number columns) and as the list shows them.

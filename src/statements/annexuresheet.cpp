@@ -11,25 +11,15 @@
 #include "core/session.h"
 #include "core/storeerror.h"
 #include "core/transaction.h"
-#include "returnfile/controltotals.h"
+#include "statements/annexuresavecheck.h"
+#include "statements/annexuretransfer.h"
 #include "statements/basicinfocheck.h"
 #include "statements/statementsheet.h"
 
-#include <QSqlQuery>
-
-namespace {
-
-bool isNumeric(const QString &text)
-{
-    bool ok = false;
-    text.trimmed().toDouble(&ok);
-    return ok;
-}
-
-} // namespace
-
 AnnexureSheet::AnnexureSheet(StatementSheet &statement)
-    : m_statement(statement), m_records(statement.session().store, statement.form())
+    : m_statement(statement),
+      m_records(statement.session().store, statement.form()),
+      m_parties(statement.session().store, statement.form())
 {
     // A new entry is dated today, as the screen has always started it.
     m_entry.date = QDate::currentDate();
@@ -41,21 +31,10 @@ const ChallanEntry *AnnexureSheet::challan() const
     return m_challanId != 0 && row >= 0 ? &m_challans.row(row) : nullptr;
 }
 
-QString AnnexureSheet::properPartyText() const
-{
-    return QStringLiteral("Please select proper %1 Name").arg(m_statement.form().partyWord);
-}
-
 QStringList AnnexureSheet::partyNames() const
 {
-    const FormTraits &form = m_statement.form();
-    const QString table = form.salaryLayout ? "mstEmployee" : "mstDeductee";
     try {
-        return records::comboTexts(m_statement.session().store, {}, {}, false,
-                                   QStringLiteral("SELECT DISTINCT %1 FROM %2 WHERE GroupID = ? "
-                                                  "ORDER BY %1")
-                                       .arg(form.partyNameColumn, table),
-                                   false, {m_statement.session().curGroupId});
+        return m_parties.names(m_statement.session().curGroupId);
     } catch (const StoreError &error) {
         m_statement.reportStoreError(error);
         return {};
@@ -86,44 +65,10 @@ void AnnexureSheet::chooseChallan(int gridRow)
 
 bool AnnexureSheet::partyLeft()
 {
-    const FormTraits &form = m_statement.form();
-    const Session &session = m_statement.session();
-    const QString table = form.salaryLayout ? "mstEmployee" : "mstDeductee";
-    const QString idColumn = form.salaryLayout ? "EmpID" : "DeducteeID";
     try {
-        // The combo lists the group's parties: a name is looked up among them.
-        const QVariant id = session.store.scalar(
-            QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ? AND GroupID = ?")
-                .arg(idColumn, table, form.partyNameColumn),
-            {records::escapeText(m_entry.partyName), session.curGroupId});
-        m_entry.partyNo = QString::number(id.isValid() ? id.toInt() : 0);
-        if (id.isValid() && id.toInt() > 0) {
-            if (form.salaryLayout) {
-                QSqlQuery row = session.store.exec(
-                    QStringLiteral("SELECT Designation, PAN, PanRef, FromDate, ToDate "
-                                   "FROM mstEmployee WHERE EmpID = ?"),
-                    {id});
-                row.next();
-                m_entry.designation = records::nullToText(row.value(0));
-                m_entry.pan = records::nullToText(row.value(1));
-                m_entry.panRef = records::nullToText(row.value(2));
-                m_entry.fromDate = records::dateOf(row.value(3));
-                m_entry.toDate = records::dateOf(row.value(4));
-            } else {
-                QSqlQuery row = session.store.exec(
-                    QStringLiteral("SELECT DeducteeCode, PAN, PanRef, Address1, Address2, "
-                                   "Address3, Address4, Address5, State, StateCode, PIN "
-                                   "FROM mstDeductee WHERE DeducteeID = ?"),
-                    {id});
-                row.next();
-                QString *fields[] = {&m_entry.deducteeCode, &m_entry.pan, &m_entry.panRef,
-                                     &m_entry.address1, &m_entry.address2, &m_entry.address3,
-                                     &m_entry.address4, &m_entry.address5, &m_entry.state,
-                                     &m_entry.stateCode, &m_entry.pin};
-                for (int column = 0; column < int(std::size(fields)); ++column)
-                    *fields[column] = records::nullToText(row.value(column));
+        if (m_parties.fill(m_entry, m_statement.session().curGroupId)) {
+            if (!m_statement.form().salaryLayout)
                 stateChosen();
-            }
             return true;
         }
     } catch (const StoreError &error) {
@@ -206,72 +151,21 @@ bool AnnexureSheet::dateLeft()
                m_entry.date);
 }
 
-std::optional<FieldFailure> AnnexureSheet::partyFailure() const
-{
-    const FormTraits &form = m_statement.form();
-    const auto failure = [](const QString &text, const char *field) {
-        return FieldFailure{{text, appTitle, MessageIcon::Critical}, QLatin1String(field)};
-    };
-    if (m_entry.flag == u" " && numbers::val(m_entry.deposited) <= 0)
-        return failure(depositedNeededText, "txt107");
-    // Only Form 24Q's employee rows may wait for their challans.
-    if (!challan() && (!form.salaryLayout || m_challans.rowCount() > 0))
-        return failure(chooseChallanText, "GrdChallan");
-    struct Required
-    {
-        QString AnnexureEntry::*member;
-        const char *field;
-        bool deducteesOnly;
-    };
-    static const Required required[] = {
-        {&AnnexureEntry::deducteeCode, "txtDeducteeCode", true},
-        {&AnnexureEntry::partyName, "cmbDeductee", false},
-        {&AnnexureEntry::stateCode, "txtDStateCode", true},
-        {&AnnexureEntry::state, "cmbDState", true},
-    };
-    for (const Required &blank : required) {
-        if (blank.deducteesOnly && form.salaryLayout)
-            continue;
-        if (auto refusal = fieldrules::isBlank(m_entry.*blank.member, {},
-                                               QLatin1String(blank.field)))
-            return refusal;
-    }
-    if (numbers::val(m_entry.partyNo) == 0)
-        return failure(properPartyText(), "cmbDeductee");
-    if (!form.salaryLayout && numbers::val(m_entry.stateId) == 0)
-        return failure(properStateText, "cmbDState");
-    return std::nullopt;
-}
-
-bool AnnexureSheet::allocationExceeded() const
-{
-    // The rows of a challan may not deposit more than the challan paid; to the paisa.
-    const ChallanEntry *chosen = challan();
-    if (!chosen)
-        return false;
-    Money sum = Money::fromText(m_entry.deposited);
-    for (const AnnexureEntry &row : m_rows.rows()) {
-        if (row.srlNo != m_entry.srlNo)
-            sum += Money::fromText(row.deposited);
-    }
-    return Money::fromText(chosen->total) < sum;
-}
-
 bool AnnexureSheet::save()
 {
-    if (const auto failure = partyFailure()) {
+    const FormTraits &form = m_statement.form();
+    if (const auto failure = annexuresavecheck::partyFailure(m_entry, form, challan() != nullptr,
+                                                             m_challans.rowCount())) {
         m_statement.boxes().show(failure->message);
         m_statement.requestFocus(failure->field);
         return false;
     }
     if (!dateLeft())
         return false;
-    for (QString *amount : {&m_entry.amount, &m_entry.rate, &m_entry.deposited}) {
-        if (!isNumeric(*amount))
-            *amount = m_statement.form().annexureZero;
-    }
-    if (allocationExceeded())
-        return refuse(tooMuchTaxText, QStringLiteral("txtdedTax"));
+    annexuresavecheck::zeroNonNumbers(m_entry, form);
+    if (const ChallanEntry *chosen = challan();
+        chosen && annexuresavecheck::exceedsChallan(m_entry, m_rows.rows(), chosen->total))
+        return refuse(annexuresavecheck::tooMuchTaxText, QStringLiteral("txtdedTax"));
 
     const ChallanEntry none;
     const ChallanEntry &chosen = challan() ? *challan() : none;
@@ -286,7 +180,7 @@ bool AnnexureSheet::save()
         else
             m_records.insert(m_entry, chosen, key());
         saved = m_records.asListed(m_entry);
-        writeControlTotals(m_challanId, listed, &saved);
+        writeControlTotals(listed, &saved);
         transaction.commit();
     } catch (const StoreError &error) {
         return refuse(cannotSaveText + u'\n' + error.description(), {});
@@ -332,7 +226,7 @@ void AnnexureSheet::deleteRow(int row)
     try {
         Transaction transaction(m_statement.session().store);
         m_records.remove(int(numbers::val(m_rows.row(row).rowId)), key());
-        writeControlTotals(m_challanId, row, nullptr);
+        writeControlTotals(row, nullptr);
         transaction.commit();
     } catch (const StoreError &error) {
         m_statement.reportStoreError(error);
@@ -354,28 +248,11 @@ void AnnexureSheet::deleteRow(int row)
 bool AnnexureSheet::transferToChallans()
 {
     const DataStore &store = m_statement.session().store;
-    const FormTraits &form = m_statement.form();
     try {
         if (m_statement.storedChallans() > 0)
-            return refuse(transferRefusedText, QStringLiteral("lstvDedt"));
+            return refuse(annexuretransfer::refusedText, QStringLiteral("lstvDedt"));
         Transaction transaction(store);
-        ChallanRecords challans(store, form);
-        const QList<AnnexureEntry> waiting = m_records.load(key());
-        int serial = 0;
-        for (AnnexureEntry row : waiting) {
-            ChallanEntry created;
-            created.slNo = QString::number(++serial);
-            created.tds = row.tax;
-            created.total = row.total;
-            created.totTax = row.deposited;
-            created.cheque = QStringLiteral("0");
-            challans.insert(created, key().statement);
-            // The row now hangs under its own challan, as the first and only row there.
-            const ChallanRowsKey target{key().statement, int(numbers::val(created.challanId))};
-            m_records.remove(int(numbers::val(row.rowId)), key());
-            m_records.insert(row, created, target);
-            writeControlTotals(target.challanId, {row});
-        }
+        annexuretransfer::makeChallans(store, m_statement.form(), m_records, key());
         transaction.commit();
     } catch (const StoreError &error) {
         m_statement.reportStoreError(error);
@@ -384,8 +261,9 @@ bool AnnexureSheet::transferToChallans()
         return refuse(QString::fromUtf8(error.what()), QStringLiteral("lstvDedt"));
     }
     m_statement.info().noChallan = QString::number(m_statement.storedChallans());
-    m_statement.boxes().show({transferredText, appTitle, MessageIcon::Information});
-    m_statement.boxes().show({challansIncompleteText, appTitle, MessageIcon::Information});
+    for (const QString &text :
+         {annexuretransfer::transferredText, annexuretransfer::challansIncompleteText})
+        m_statement.boxes().show({text, appTitle, MessageIcon::Information});
     open();
     return true;
 }
@@ -449,40 +327,24 @@ void AnnexureSheet::newRow()
     m_editingRow = false;
 }
 
-void AnnexureSheet::writeControlTotals(int challanId, const QList<AnnexureEntry> &rows) const
+void AnnexureSheet::writeControlTotals(int changed, const AnnexureEntry *replacement) const
 {
-    writeControlTotals(challanId, rows, -1, nullptr);
-}
-
-void AnnexureSheet::writeControlTotals(int challanId, int changed,
-                                       const AnnexureEntry *replacement) const
-{
-    writeControlTotals(challanId, m_rows.rows(), changed, replacement);
-}
-
-void AnnexureSheet::writeControlTotals(int challanId, const QList<AnnexureEntry> &rows,
-                                       int changed, const AnnexureEntry *replacement) const
-{
-    if (challanId == 0)
+    if (m_challanId == 0)
         return;
-    // The rows as they are about to become: the changed one replaced, added (at -1), or taken
-    // out when there is no replacement.
-    const auto amountsOf = [](const AnnexureEntry &row) {
-        return AnnexureListRow{row.deposited, row.tax, row.surcharge, row.cess, row.total};
-    };
+    // The list as it is about to become: the changed row replaced, added (at -1), or taken out
+    // when there is no replacement.
+    const QList<AnnexureEntry> &rows = m_rows.rows();
     QList<AnnexureListRow> amounts;
     amounts.reserve(rows.size() + 1);
     for (int index = 0; index < rows.size(); ++index) {
         if (index != changed)
-            amounts.append(amountsOf(rows.at(index)));
+            amounts.append(AnnexureRecords::controlAmounts(rows.at(index)));
         else if (replacement)
-            amounts.append(amountsOf(*replacement));
+            amounts.append(AnnexureRecords::controlAmounts(*replacement));
     }
     if (changed < 0 && replacement)
-        amounts.append(amountsOf(*replacement));
-    calculateChallanControlTotal(m_statement.session().store, m_statement.form(),
-                                 {challanId, m_statement.basicInfoId(), m_statement.compId()},
-                                 amounts);
+        amounts.append(AnnexureRecords::controlAmounts(*replacement));
+    m_records.writeControlTotals(key(), amounts);
 }
 
 bool AnnexureSheet::refuse(const QString &text, const QString &field)

@@ -2,12 +2,10 @@
 
 #include "statements/annexureentry.h"
 #include "statements/annexurelistmodel.h"
+#include "statements/annexureparties.h"
 #include "statements/annexurerecords.h"
 #include "statements/annexurerules.h"
 #include "statements/challangridmodel.h"
-
-#include <QString>
-#include <QStringList>
 
 class StatementSheet;
 
@@ -21,25 +19,10 @@ class StatementSheet;
 class AnnexureSheet
 {
 public:
-    static inline const QString chooseChallanText =
-        QStringLiteral("Select a particuler challan for Deductee Entry.");
-    static inline const QString depositedNeededText =
-        QStringLiteral("Tax Deposited value should not be Blank or Zero !!");
-    static inline const QString properStateText =
-        QStringLiteral("Please select proper State Name");
-    static inline const QString tooMuchTaxText =
-        QStringLiteral("Total Tax should not be greater !!");
     static inline const QString cannotSaveText =
         QStringLiteral("Cannot Save Deductee. Try Again.");
     static inline const QString fromListText =
         QStringLiteral("Please select from the drop-down list");
-    static inline const QString transferRefusedText = QStringLiteral(
-        "You have already entered challan records. auto transfer is not possible anymore.");
-    static inline const QString transferredText =
-        QStringLiteral("Challan records created properly");
-    static inline const QString challansIncompleteText = QStringLiteral(
-        "The new challans have no date, bank-branch code or challan number yet: enter them on "
-        "the Challan panel before the file is generated.");
 
     explicit AnnexureSheet(StatementSheet &statement);
 
@@ -51,8 +34,6 @@ public:
     const ChallanEntry *challan() const;
     /// The tax deposited of the rows in the list, "0.00".
     QString depositedSum() const { return m_depositedSum; }
-    /// The message that names the deductee or the employee as the save asks for one.
-    QString properPartyText() const;
 
     /// The deductees or employees of the session's group, by name.
     QStringList partyNames() const;
@@ -94,20 +75,15 @@ private:
     void rowsChanged();
     void clearPartyFields();
     void newRow();
-    /// Writes a challan's control totals from the rows it now has; none without a challan.
-    void writeControlTotals(int challanId, const QList<AnnexureEntry> &rows) const;
-    /// The same for the list with row @p changed replaced (or added, for -1) by
-    /// @p replacement, or taken out when there is none.
-    void writeControlTotals(int challanId, int changed, const AnnexureEntry *replacement) const;
-    void writeControlTotals(int challanId, const QList<AnnexureEntry> &rows, int changed,
-                            const AnnexureEntry *replacement) const;
-    /// The first refusal of a save before its date and amounts are looked at.
-    std::optional<FieldFailure> partyFailure() const;
-    bool allocationExceeded() const;
+    /// Writes the chosen challan's control totals from its list as it is about to become: row
+    /// @p changed replaced by @p replacement (added for -1), or taken out when there is none;
+    /// nothing without a challan.
+    void writeControlTotals(int changed, const AnnexureEntry *replacement) const;
     bool refuse(const QString &text, const QString &field);
 
     StatementSheet &m_statement;
     AnnexureRecords m_records;
+    AnnexureParties m_parties;
     AnnexureEntry m_entry;
     ChallanGridModel m_challans;
     AnnexureListModel m_rows;

@@ -1,7 +1,9 @@
 #include "statementfixture.h"
 #include "core/numbers.h"
 #include "statements/annexurerules.h"
+#include "statements/annexuresavecheck.h"
 #include "statements/annexuresheet.h"
+#include "statements/annexuretransfer.h"
 #include "statements/challansheet.h"
 #include "statements/statementsheet.h"
 
@@ -172,7 +174,7 @@ void TestAnnexureSheet::rowsOfAChallan()
     // The rows may deposit the challan's amount to the paisa, and not a paisa more.
     QVERIFY(f.enter(rest));
     QVERIFY(!f.enter("0.01"));
-    QCOMPARE(f.boxes.shown.last().text, AnnexureSheet::tooMuchTaxText);
+    QCOMPARE(f.boxes.shown.last().text, annexuresavecheck::tooMuchTaxText);
     QCOMPARE(f.sheet.takeFocus(), "txtdedTax");
 
     // A deleted row leaves the others their numbers, and the totals follow.
@@ -236,7 +238,7 @@ void TestAnnexureSheet::noDeductionRowHasNoDeposit()
 {
     AnnexureFixture f(FormKind::Form26Q);
     QVERIFY(!f.enter("0"));
-    QCOMPARE(f.boxes.shown.last().text, AnnexureSheet::depositedNeededText);
+    QCOMPARE(f.boxes.shown.last().text, annexuresavecheck::depositedNeededText);
     QVERIFY(f.enter("0", "B"));
     QCOMPARE(f.data.text("SELECT quote(TaxDeductDt) || quote(TaxPaidToCGDt) || BankBranchCode "
                          "|| BankChallanNo || NonDeductionflg || DeducteeCode || PIN FROM "
@@ -305,8 +307,8 @@ void TestAnnexureSheet::automaticTransfer()
     QVERIFY(f.rows.transferToChallans());
     // The challans made lack what only the counterfoil gives, and the user is told so.
     QCOMPARE(f.boxes.texts().mid(f.boxes.texts().size() - 2),
-             QStringList({AnnexureSheet::transferredText,
-                          AnnexureSheet::challansIncompleteText}));
+             QStringList({annexuretransfer::transferredText,
+                          annexuretransfer::challansIncompleteText}));
     QCOMPARE(f.data.text("SELECT group_concat(SlNo || ':' || TotTax, ' ') FROM TranChallanE24"),
              "1:300 2:200");
     QCOMPARE(f.data.text("SELECT count(DISTINCT ChallanId) FROM TranEmployeeE24 "
@@ -316,7 +318,7 @@ void TestAnnexureSheet::automaticTransfer()
 
     // Once a challan exists, nothing more is transferred.
     QVERIFY(!f.rows.transferToChallans());
-    QCOMPARE(f.boxes.shown.last().text, AnnexureSheet::transferRefusedText);
+    QCOMPARE(f.boxes.shown.last().text, annexuretransfer::refusedText);
     QCOMPARE(f.data.count("TranChallanE24"), 2);
 }
 

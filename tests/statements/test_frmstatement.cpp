@@ -6,6 +6,7 @@
 #include "reports/reportpreview.h"
 #include "returnfile/batchgeneration.h"
 #include "returnfile/generationflow.h"
+#include "statements/annexuretransfer.h"
 #include "statements/challansheet.h"
 #include "statements/frmstatement.h"
 #include "statements/statementsheet.h"
@@ -275,7 +276,7 @@ void TestFrmStatement::challansMadeFromRows()
     enterRow(f, screen, "07/05/2026");
     QCOMPARE(f.data.count("TranEmployeeE24"), 1);
     child<QPushButton>(screen, "cmdAutoTransfer")->click();
-    QCOMPARE(f.boxes.texts().last(), AnnexureSheet::challansIncompleteText);
+    QCOMPARE(f.boxes.texts().last(), annexuretransfer::challansIncompleteText);
     f.boxes.shown.clear();
     child<QPushButton>(screen, "CmdMakeFile")->click();
     QVERIFY2(child<QPushButton>(screen, "cmdOK")->isVisible(), qPrintable(f.boxes.texts().join('|')));
