@@ -4,20 +4,20 @@
 #include "core/fieldpath.h"
 #include "core/formtraits.h"
 #include "core/keyfilters.h"
-#include "core/money.h"
 #include "core/records.h"
 #include "core/screenroutines.h"
 #include "core/session.h"
 #include "core/storeerror.h"
+#include "statements/annexurerowlayout.h"
 #include "statements/annexuresavecheck.h"
 #include "statements/annexuresheet.h"
+#include "statements/challanblock.h"
 #include "statements/rowlistview.h"
 #include "statements/statementsheet.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -40,12 +40,6 @@ const QHash<QString, Box> leftBoxes = {
     {"txtdedCess", Box::Cess},        {"txt107", Box::Deposited},
     {"txtValOfPurchase", Box::Purchase},
 };
-
-const char *const blockBoxes[] = {"txtDSection", "txtDBSRCode", "txtDChallanNo",
-                                  "txtDTransferVoucherNo", "txtDChqNo", "txtDTotTax",
-                                  "txtGrossTotaltaxDeposited"};
-const char *const blockCaptions[] = {"Section", "BSR Code", "Challan No", "Trans Vou. No",
-                                     "Cheque No.", "Challan Total", "Tax Deposited"};
 
 const char *const flagCodes[] = {"A", "B", " "};
 
@@ -133,13 +127,7 @@ void AnnexurePanel::buildBoxes(MessageBoxes &boxes)
     }
     m_flags[2]->setChecked(true);
 
-    for (int index = 0; index < int(std::size(blockBoxes)); ++index) {
-        auto *line = new QLineEdit(this);
-        line->setObjectName(QLatin1String(blockBoxes[index]));
-        line->setReadOnly(true);
-        line->setFocusPolicy(Qt::NoFocus);
-        m_challanBlock.insert(line->objectName(), line);
-    }
+    m_challanBlock = new ChallanBlock(this);
 
     m_save = screenroutines::commandButton(QStringLiteral("Save Record"),
                                            QStringLiteral("cmdSaveDeductee"), this);
@@ -187,96 +175,16 @@ void AnnexurePanel::buildLists()
         list->installEventFilter(this);
 }
 
-QString AnnexurePanel::label(const QString &text, int item) const
-{
-    return item ? text.arg(item) : text;
-}
-
 void AnnexurePanel::layOut()
 {
-    const FormTraits &form = m_statement.form();
-    const bool employees = form.salaryLayout;
-    const auto item = [&form](AnnexureItem which) { return form.annexureItem(which); };
-
-    auto *block = new QGroupBox(QStringLiteral("Challan"), this);
-    auto *blockGrid = new QGridLayout(block);
-    for (int index = 0; index < int(std::size(blockBoxes)); ++index) {
-        blockGrid->addWidget(new QLabel(QLatin1String(blockCaptions[index]), block), index / 2,
-                             index % 2 * 2);
-        blockGrid->addWidget(m_challanBlock.value(QLatin1String(blockBoxes[index])), index / 2,
-                             index % 2 * 2 + 1);
-    }
     auto *top = new QHBoxLayout;
     top->addWidget(m_challans, 3);
-    top->addWidget(block, 2);
+    top->addWidget(m_challanBlock, 2);
 
-    // Three columns: who the party is, where, and what was paid and deducted.
-    auto *grid = new QGridLayout;
-    const auto place = [this, grid](const QString &caption, QWidget *field, int row, int column) {
-        auto *text = new QLabel(caption, this);
-        text->setBuddy(field);
-        grid->addWidget(text, row, column * 2);
-        grid->addWidget(field, row, column * 2 + 1);
-    };
-    const QString party = form.partyWord;
-    place(party + QStringLiteral(" Srl No"), box("txtDeducteeSrlNo"), 0, 0);
-    place(label(party + QStringLiteral(" Name [%1]"), item(AnnexureItem::Name)), m_party, 1, 0);
-    place(label(QStringLiteral("PAN  [%1]"), item(AnnexureItem::Pan)), box("txtPANDeductee"), 2,
-          0);
-    place(QStringLiteral("PAN  REF."), box("txtPanRefDeductee"), 3, 0);
-    if (employees) {
-        place(QStringLiteral("Designation"), box("txtEmpDesignation"), 4, 0);
-        place(QStringLiteral("From Date"), m_fromDate, 0, 1);
-        place(QStringLiteral("To Date"), m_toDate, 1, 1);
-    } else {
-        place(label(QStringLiteral("Deductee Code [%1]"), item(AnnexureItem::Code)),
-              box("txtDeducteeCode"), 4, 0);
-        const char *addresses[] = {"txtAdd1", "txtAdd2", "txtAdd3", "txtAdd4", "txtAdd5"};
-        for (int line = 0; line < 5; ++line)
-            place(line == 0 ? QStringLiteral("Address ") : QString(),
-                  box(QLatin1String(addresses[line])), line, 1);
-        auto *state = new QHBoxLayout;
-        state->addWidget(m_state, 1);
-        state->addWidget(box("txtDStateCode"));
-        box("txtDStateCode")->setMaximumWidth(36);
-        auto *stateLabel = new QLabel(QStringLiteral("State"), this);
-        stateLabel->setBuddy(m_state);
-        grid->addWidget(stateLabel, 5, 2);
-        grid->addLayout(state, 5, 3);
-        place(QStringLiteral("PIN"), box("txtDPin"), 6, 1);
-    }
-    place(label(QStringLiteral(" Date [%1]"), item(AnnexureItem::Date)), m_date, 0, 2);
-    place(label(QStringLiteral("Amount [%1]"), item(AnnexureItem::Amount)), box("txt104"), 1, 2);
-    int row = 2;
-    if (!employees)
-        place(label(QStringLiteral("Rate[%1]"), item(AnnexureItem::Rate)), box("txt106"), row++,
-              2);
-    place(label(QStringLiteral("Tax[%1]"), item(AnnexureItem::Tax)), box("txtdedTax"), row++, 2);
-    place(label(QStringLiteral("Surcharge[%1]"), item(AnnexureItem::Surcharge)),
-          box("txtdedSurcharge"), row++, 2);
-    place(label(QStringLiteral("Cess[%1]"), item(AnnexureItem::Cess)), box("txtdedCess"), row++,
-          2);
-    place(label(QStringLiteral("Total[%1]"), item(AnnexureItem::Total)), box("txtdedTotal"),
-          row++, 2);
-    place(label(QStringLiteral("Tax Deposited [%1]"), item(AnnexureItem::Deposited)),
-          box("txt107"), row++, 2);
-    if (!form.purchaseColumn.isEmpty())
-        place(label(QStringLiteral("Total Value Of Purchase [%1]"), item(AnnexureItem::Extra)),
-              box("txtValOfPurchase"), row++, 2);
-    if (!form.grossingUpColumn.isEmpty())
-        place(label(QStringLiteral("Grossing Up Indicator[%1] :"), item(AnnexureItem::Extra)),
-              m_grossingUp, row++, 2);
-    for (int column : {1, 3, 5})
-        grid->setColumnStretch(column, 1);
-    for (const char *only : {"txtDeducteeCode", "txtAdd1", "txtAdd2", "txtAdd3", "txtAdd4",
-                             "txtAdd5", "txtDStateCode", "txtDPin", "txt106"})
-        box(QLatin1String(only))->setVisible(!employees);
-    m_state->setVisible(!employees);
-    box("txtEmpDesignation")->setVisible(employees);
-    box("txtValOfPurchase")->setVisible(!form.purchaseColumn.isEmpty());
-    m_grossingUp->setVisible(!form.grossingUpColumn.isEmpty());
-    m_fromDate->setVisible(employees);
-    m_toDate->setVisible(employees);
+    QGridLayout *grid = layOutAnnexureRow(
+        this, m_statement.form(),
+        {[this](const char *control) { return box(QLatin1String(control)); }, m_party, m_state,
+         m_grossingUp, m_date, m_fromDate, m_toDate});
 
     auto *actions = new QHBoxLayout;
     for (QRadioButton *flag : m_flags)
@@ -421,15 +329,7 @@ void AnnexurePanel::showEntry()
                                                                                           : 2);
 
     const ChallanEntry *challan = m_sheet.challan();
-    const QStringList block = {challan ? challan->section : QString(),
-                               challan ? challan->bankCode : QString(),
-                               challan ? challan->challanNo : QString(),
-                               challan ? challan->voucherNo : QString(),
-                               challan ? challan->cheque : QString(),
-                               challan ? Money::fromText(challan->total).toText() : QString(),
-                               m_sheet.depositedSum()};
-    for (int index = 0; index < int(std::size(blockBoxes)); ++index)
-        m_challanBlock.value(QLatin1String(blockBoxes[index]))->setText(block.at(index));
+    m_challanBlock->showChallan(challan, m_sheet.depositedSum());
     const int chosen = challan ? m_sheet.challans().find(&ChallanEntry::challanId,
                                                          challan->challanId.toInt())
                                : -1;

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class AnnexureSheet;
+class ChallanBlock;
 class DateBox;
 class FieldPath;
 class MessageBoxes;
@@ -54,12 +55,11 @@ private:
     void save();
     void changed(void (AnnexureSheet::*step)());
     QLineEdit *box(const QString &name) const;
-    QString label(const QString &text, int item) const;
 
     StatementSheet &m_statement;
     AnnexureSheet &m_sheet;
     QHash<QString, QLineEdit *> m_boxes;
-    QHash<QString, QLineEdit *> m_challanBlock;
+    ChallanBlock *m_challanBlock = nullptr;
     QComboBox *m_party = nullptr;
     QComboBox *m_state = nullptr;
     QComboBox *m_grossingUp = nullptr;

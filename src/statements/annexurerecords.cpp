@@ -183,7 +183,8 @@ QList<QPair<QString, QVariant>> AnnexureRecords::values(const AnnexureEntry &ent
     columns += {{"TaxDeductDt", deposited ? records::storedDate(entry.date) : QVariant()},
                 {"TaxPaidToCGDt", deposited ? records::storedDate(challan.date) : QVariant()},
                 {"BankBranchCode", deposited ? escapeText(challan.bankCode) : QStringLiteral(" ")},
-                {"BankChallanNo", deposited ? escapeText(challan.challanNo) : QStringLiteral(" ")}};
+                {"BankChallanNo",
+                 deposited ? escapeText(challan.challanNo) : QStringLiteral(" ")}};
     if (m_form.salaryLayout) {
         columns += {{"EmpNo", static_cast<qint64>(numbers::val(entry.partyNo))},
                     {"Designation", escapeText(entry.designation)},

@@ -80,7 +80,8 @@ FrmStatement::FrmStatement(const FormTraits &form, Session &session, MessageBoxe
     connect(m_check, &StatementCheck::findingChosen, this, &FrmStatement::showFinding);
     connect(m_basicInfo, &BasicInfoPanel::challansAsked, this,
             [this] { m_buttons->press(Panel::Challan); });
-    connect(m_generation, &GenerationFrame::hideAsked, this, [this] { showGenerationFrame(false); });
+    connect(m_generation, &GenerationFrame::hideAsked, this,
+            [this] { showGenerationFrame(false); });
     connect(m_generation, &GenerationFrame::coverFormAsked, this, &FrmStatement::coverForm);
     m_generation->setListedRows([this] { return m_annexureRows.rows().rowCount(); });
     connect(m_annexure, &AnnexurePanel::challansMade, this, [this] { m_challans.reload(); });

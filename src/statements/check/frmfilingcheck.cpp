@@ -33,7 +33,9 @@ QString summaryOf(const filingcheck::CheckResult &result)
 {
     if (result.findings.isEmpty())
         return QStringLiteral("Nothing found that the authority's validation would refuse.");
-    return QStringLiteral("Errors: %1    Warnings: %2").arg(result.errors()).arg(result.warnings());
+    return QStringLiteral("Errors: %1    Warnings: %2")
+        .arg(result.errors())
+        .arg(result.warnings());
 }
 
 } // namespace
