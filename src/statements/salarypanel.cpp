@@ -5,6 +5,7 @@
 #include "core/keyfilters.h"
 #include "core/screenroutines.h"
 #include "statements/perkframe.h"
+#include "statements/salarylistview.h"
 #include "statements/sectionframe.h"
 #include "statements/statementsheet.h"
 
@@ -12,7 +13,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -160,23 +160,7 @@ void SalaryPanel::buildList()
                                            QStringLiteral("cmdSaveEmployee"), this);
     connect(m_save, &QPushButton::clicked, this, &SalaryPanel::save);
 
-    m_list = new QTableView(this);
-    m_list->setObjectName(QStringLiteral("lstvEmp"));
-    m_list->setModel(&m_salary.list());
-    m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_list->verticalHeader()->setVisible(false);
-    m_list->verticalHeader()->setDefaultSectionSize(m_list->fontMetrics().height() + 6);
-    m_list->setColumnHidden(SalaryListModel::IdColumn, true);
-    // Columns as wide as their heads: thousands of rows are not measured one by one.
-    m_list->resizeColumnsToContents();
-    const int digit = m_list->fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    m_list->setColumnWidth(SalaryListModel::NameColumn, 200);
-    m_list->setColumnWidth(SalaryListModel::PanColumn, digit * 12);
-    m_list->setColumnWidth(SalaryListModel::FromColumn, digit * 11);
-    m_list->setColumnWidth(SalaryListModel::ToColumn, digit * 11);
-    m_list->setMinimumHeight(110);
+    m_list = new SalaryListView(&m_salary.list(), this);
     m_list->installEventFilter(this);
     connect(m_list, &QTableView::clicked, this, [this](const QModelIndex &index) {
         m_salary.loadRow(index.row());
