@@ -10,16 +10,21 @@ constexpr int measuredRows = 50;
 
 } // namespace
 
+void shapeAsList(QTableView *view, const QString &name, QAbstractItemModel *model)
+{
+    view->setObjectName(name);
+    view->setModel(model);
+    view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view->setSelectionMode(QAbstractItemView::SingleSelection);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->verticalHeader()->setVisible(false);
+    view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + 6);
+}
+
 RowListView::RowListView(const QString &name, QAbstractItemModel *model, QWidget *parent)
     : QTableView(parent)
 {
-    setObjectName(name);
-    setModel(model);
-    setSelectionBehavior(QAbstractItemView::SelectRows);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    verticalHeader()->setVisible(false);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    shapeAsList(this, name, model);
     connect(model, &QAbstractItemModel::modelReset, this, &RowListView::fitColumns);
     fitColumns();
 }

@@ -1,18 +1,11 @@
 #include "statements/salarylistview.h"
 
+#include "statements/rowlistview.h"
 #include "statements/salarylistmodel.h"
-
-#include <QHeaderView>
 
 SalaryListView::SalaryListView(SalaryListModel *model, QWidget *parent) : QTableView(parent)
 {
-    setObjectName(QStringLiteral("lstvEmp"));
-    setModel(model);
-    setSelectionBehavior(QAbstractItemView::SelectRows);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    verticalHeader()->setVisible(false);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    shapeAsList(this, QStringLiteral("lstvEmp"), model);
     setColumnHidden(SalaryListModel::IdColumn, true);
     resizeColumnsToContents();
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
